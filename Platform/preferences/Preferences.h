@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+/// One domain of small user preferences. Reads see what others last wrote. A value of another type
+/// than asked for reads as absent. Confined to one thread.
+class Preferences {
+public:
+    virtual ~Preferences() = default;
+
+    [[nodiscard]] virtual std::optional<bool> boolean(std::string_view key) const = 0;
+    [[nodiscard]] virtual std::optional<double> number(std::string_view key) const = 0;
+    [[nodiscard]] virtual std::optional<std::string> string(std::string_view key) const = 0;
+    /// Bytes stored with `setData`.
+    [[nodiscard]] virtual std::optional<std::string> data(std::string_view key) const = 0;
+    [[nodiscard]] virtual bool contains(std::string_view key) const = 0;
+    [[nodiscard]] virtual bool empty() const = 0;
+
+    /// Setters answer false when the value could not be stored durably; then the domain is as it was.
+    virtual bool setBoolean(std::string_view key, bool value) = 0;
+    virtual bool setNumber(std::string_view key, double value) = 0;
+    virtual bool setString(std::string_view key, std::string_view value) = 0;
+    virtual bool setData(std::string_view key, std::string_view bytes) = 0;
+    virtual bool remove(std::string_view key) = 0;
+};
+
+} // namespace platform

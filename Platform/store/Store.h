@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Platform/store/Context.h"
+#include "Platform/store/Schema.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+namespace platform::store {
+
+/// Where and how a store is opened.
+struct StoreConfiguration {
+    /// The store's file. Its folder is created (0700) when missing; the file is made 0600. Ignored for
+    /// a store in memory.
+    std::filesystem::path file;
+    /// Kept in memory only; gone with the last owner of the store.
+    bool inMemory = false;
+    /// SQLite VFS to use; null is the system's. Tests inject faults here.
+    const char* vfs = nullptr;
+    /// How long a save waits for another program's save, in milliseconds.
+    int busyTimeoutMilliseconds = 5000;
+};
+
+/// An opened record store. Opening checks that the file is ours, whole and not newer than this
+/// program, moves an older schema on in place in one transaction, and never changes a file it refuses.
+/// Owned by shared pointer; contexts keep it alive. Safe to use from any thread.
+class Store : public std::enable_shared_from_this<Store> {
+public:
+    /// Throws `StoreError`.
+    [[nodiscard]] static std::shared_ptr<Store> open(const Schema& schema,
+                                                     const StoreConfiguration& configuration);
+
+    /// A new context, confined to the calling thread. Throws `StoreError`.
+    [[nodiscard]] std::unique_ptr<Context> makeContext(ContextEnvironment environment);
+
+    /// Registers a function called after every commit of a context of this object, on the thread
+    /// that saved. Commits of other processes are seen through `CommitWatch`. The registration ends
+    /// when the returned handle is destroyed.
+    [[nodiscard]] std::shared_ptr<void> onCommit(std::function<void()> listener);
+
+    [[nodiscard]] const StoreConfiguration& configuration() const;
+};
+
+} // namespace platform::store

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Platform/store/LiveQuery.h"
+#include "Platform/store/Store.h"
+#include "QuillmereKit/records/BalanceAdjustment.h"
+#include "QuillmereKit/records/LedgerRow.h"
+#include "QuillmereKit/records/SettingsRow.h"
+#include "QuillmereKit/records/TimeBankSettings.h"
+
+#include <QtCore/QObject>
+
+#include <memory>
+
+namespace quillmere {
+
+class TimeFollower;
+
+/// The opened store as the screens use it: the main context and the live queries they share. Lives
+/// from the opening of a store to its closing; a retry of private sync ends one and starts another.
+/// Main thread.
+///
+/// The settings query is loaded when the session starts. The history is read on a worker; until it
+/// has arrived the adjustments query is loading.
+class StoreSession : public QObject {
+    Q_OBJECT
+
+public:
+    using SettingsQuery = platform::store::LiveQuery<TimeBankSettings, SettingsRow>;
+    using AdjustmentsQuery = platform::store::LiveQuery<BalanceAdjustment, LedgerRow>;
+
+    /// Throws `StoreError` when the context cannot be made. `time` must outlive the session.
+    StoreSession(std::shared_ptr<platform::store::Store> store, TimeFollower& time,
+                 QObject* parent = nullptr);
+    ~StoreSession() override;
+
+    [[nodiscard]] platform::store::Context& context();
+    [[nodiscard]] TimeFollower& time();
+    [[nodiscard]] SettingsQuery& settings();
+    [[nodiscard]] AdjustmentsQuery& adjustments();
+
+    /// The first settings record, or nothing while there is none.
+    [[nodiscard]] TimeBankSettings* settingsRecord();
+
+signals:
+    /// The settings query published.
+    void settingsChanged();
+    /// The adjustments query published; `steps` tells what moved. Empty steps after loading mean the
+    /// whole list is new.
+    void adjustmentsChanged(const std::vector<platform::store::ListStep>& steps);
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> impl_;
+};
+
+} // namespace quillmere
