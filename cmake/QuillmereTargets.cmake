@@ -37,3 +37,37 @@ function(quillmere_test target)
     LABELS "${ARG_LABELS}"
     ENVIRONMENT "TZ=UTC;LC_ALL=C.UTF-8;QT_HASH_SEED=0;QT_QPA_PLATFORM=offscreen")
 endfunction()
+
+# quillmere_qml_module(<folder> [SOURCES <files>] [QML_FILES <files>] [SINGLETONS <files>]
+#                      [RESOURCES <files>] [LINK <targets>])
+# The QML module Quillmere.<folder> of the folder Quillmere/<folder>: static library
+# quillmere_<folder>, whose plugin every program that shows it links as well (quillmere_link_qml).
+function(quillmere_qml_module folder)
+  cmake_parse_arguments(ARG "" "" "SOURCES;QML_FILES;SINGLETONS;RESOURCES;LINK" ${ARGN})
+  set(target quillmere_${folder})
+  qt_add_library(${target} STATIC)
+  set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+  qt_add_qml_module(${target}
+    URI Quillmere.${folder}
+    VERSION 1.0
+    RESOURCE_PREFIX /qt/qml
+    OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/Quillmere/${folder}"
+    IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
+    SOURCES ${ARG_SOURCES}
+    QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES}
+    RESOURCES ${ARG_RESOURCES})
+  target_link_libraries(${target} PUBLIC quillmere_options Qt6::Quick ${ARG_LINK})
+  # What Qt generates is not ours to warn about.
+  get_target_property(sources ${target} SOURCES)
+  list(FILTER sources INCLUDE REGEX "/(\\.rcc|qmlcache)/|_qmltyperegistrations")
+  set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+  # The registration code that Qt generates includes the headers by their bare names.
+  target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+  set_property(GLOBAL APPEND PROPERTY QUILLMERE_QML_PLUGINS ${target}plugin)
+endfunction()
+
+# quillmere_link_qml(<target>): links the plugins of every QML module declared so far.
+function(quillmere_link_qml target)
+  get_property(plugins GLOBAL PROPERTY QUILLMERE_QML_PLUGINS)
+  target_link_libraries(${target} PRIVATE ${plugins})
+endfunction()
