@@ -4,7 +4,8 @@
 
 namespace platform {
 
-/// Where "now" comes from. Whoever needs the time is handed one; only `SystemClock` asks the system.
+/// Where "now" comes from. Whoever needs the time is handed one; only `SystemClock` asks the
+/// system.
 class Clock {
 public:
     virtual ~Clock() = default;
