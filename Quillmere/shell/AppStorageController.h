@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Quillmere/shell/AppModelContainer.h"
+#include "Quillmere/shell/PersistenceModes.h"
+#include "Quillmere/shell/StoreSession.h"
 
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
@@ -10,33 +12,39 @@
 
 namespace quillmere {
 
-class StoreSession;
 class TimeFollower;
 
 /// The opened record store for the life of the process, and the retry of private sync. Main thread.
+///
+/// The store is closed and opened anew by a retry. Everything that holds the session lives inside it:
+/// whoever makes view models for a session gives them up in `sessionChanged` when `session()` has
+/// become null, with `deleteLater` at the latest. The old session goes right after them, in the same
+/// turn of the event loop, and the store is not opened again before.
 class AppStorageController : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("owned by the application")
-    Q_PROPERTY(quillmere::PersistenceModes::Mode mode READ mode NOTIFY resultChanged)
+    Q_PROPERTY(quillmere::PersistenceModes::Mode mode READ qmlMode NOTIFY resultChanged)
     Q_PROPERTY(bool hasStore READ hasStore NOTIFY resultChanged)
     Q_PROPERTY(bool isRetryingICloud READ isRetryingICloud NOTIFY isRetryingICloudChanged)
     Q_PROPERTY(bool didLastICloudRetryFail READ didLastICloudRetryFail NOTIFY
                    didLastICloudRetryFailChanged)
 
 public:
+    /// `opener` and `time` must outlive the object.
     AppStorageController(AppModelContainer& opener, AppModelContainer::Result result,
                          TimeFollower& time, QObject* parent = nullptr);
     ~AppStorageController() override;
 
-    [[nodiscard]] const AppModelContainer::Result& result() const;
-    [[nodiscard]] PersistenceMode mode() const;
-    [[nodiscard]] bool hasStore() const;
-    [[nodiscard]] bool isRetryingICloud() const;
-    [[nodiscard]] bool didLastICloudRetryFail() const;
+    [[nodiscard]] const AppModelContainer::Result& result() const { return result_; }
+    [[nodiscard]] PersistenceMode mode() const { return result_.mode; }
+    [[nodiscard]] PersistenceModes::Mode qmlMode() const { return PersistenceModes::of(mode()); }
+    [[nodiscard]] bool hasStore() const { return result_.container != nullptr; }
+    [[nodiscard]] bool isRetryingICloud() const { return isRetryingICloud_; }
+    [[nodiscard]] bool didLastICloudRetryFail() const { return didLastICloudRetryFail_; }
 
     /// The session on the open store, or nothing when no store is open.
-    [[nodiscard]] StoreSession* session();
+    [[nodiscard]] StoreSession* session() const { return session_.get(); }
 
     /// Lets go of the store, waits 250 ms and tries private sync again; on failure opens the local
     /// fallback anew. `done` hears whether private sync is on afterwards; it is called at once when
@@ -50,8 +58,22 @@ signals:
     void didLastICloudRetryFailChanged();
 
 private:
-    class Impl;
-    std::unique_ptr<Impl> impl_;
+    void adopt(AppModelContainer::Result result);
+    void letGo();
+    void finishRetry(const std::function<void(bool)>& done);
+    void setRetrying(bool retrying);
+    void setLastRetryFailed(bool failed);
+
+    struct DeferredDelete {
+        void operator()(QObject* object) const { object->deleteLater(); }
+    };
+
+    AppModelContainer& opener_;
+    TimeFollower& time_;
+    AppModelContainer::Result result_;
+    std::unique_ptr<StoreSession, DeferredDelete> session_;
+    bool isRetryingICloud_ = false;
+    bool didLastICloudRetryFail_ = false;
 };
 
 } // namespace quillmere

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "Platform/base/Clock.h"
+#include "Platform/base/UniqueFd.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QSocketNotifier>
 
-#include <memory>
+#include <optional>
 
 namespace quillmere {
 
@@ -18,18 +20,29 @@ public:
     explicit InstantTimer(const platform::Clock& clock, QObject* parent = nullptr);
     ~InstantTimer() override;
 
-    /// Replaces what was scheduled before. An instant that has passed fires from the event loop.
+    /// Replaces what was scheduled before. An instant that has passed fires from the event loop; one
+    /// that is not finite never fires.
     void schedule(platform::Instant instant);
     void cancel();
+    [[nodiscard]] bool isScheduled() const { return target_.has_value(); }
+
+    /// Asks the clock now, as the kernel's timer does by itself, and fires when the instant has come.
+    /// For clocks that are not the system's.
+    void check();
 
 signals:
     void fired();
-    /// The system clock was set; what is scheduled stays scheduled.
+    /// The system clock was set while something was scheduled; it stays scheduled.
     void clockSet();
 
 private:
-    class Impl;
-    std::unique_ptr<Impl> impl_;
+    void arm();
+    void onReadable();
+
+    const platform::Clock& clock_;
+    platform::UniqueFd timer_;
+    QSocketNotifier notifier_;
+    std::optional<platform::Instant> target_;
 };
 
 } // namespace quillmere

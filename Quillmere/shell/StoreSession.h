@@ -10,6 +10,7 @@
 #include <QtCore/QObject>
 
 #include <memory>
+#include <vector>
 
 namespace quillmere {
 
@@ -21,6 +22,11 @@ class TimeFollower;
 ///
 /// The settings query is loaded when the session starts. The history is read on a worker; until it
 /// has arrived the adjustments query is loading.
+///
+/// View models are constructed with a reference to the session and never outlive it: the application
+/// makes them when a session starts, and when a session ends the QML objects go first, then the view
+/// models, then the session (see `AppStorageController`, `Screen`). A view model therefore may use
+/// context and queries in its destructor, and disconnects nothing by hand.
 class StoreSession : public QObject {
     Q_OBJECT
 
@@ -28,7 +34,8 @@ public:
     using SettingsQuery = platform::store::LiveQuery<TimeBankSettings, SettingsRow>;
     using AdjustmentsQuery = platform::store::LiveQuery<BalanceAdjustment, LedgerRow>;
 
-    /// Throws `StoreError` when the context cannot be made. `time` must outlive the session.
+    /// Loads the settings and starts reading the history. Throws `StoreError` when the store cannot
+    /// be read. `time` must outlive the session.
     StoreSession(std::shared_ptr<platform::store::Store> store, TimeFollower& time,
                  QObject* parent = nullptr);
     ~StoreSession() override;

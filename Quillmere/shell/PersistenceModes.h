@@ -1,0 +1,29 @@
+#pragma once
+
+#include "QuillmereKit/persistence/PersistenceMode.h"
+
+#include <QtCore/QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace quillmere {
+
+/// `PersistenceMode` as QML sees it (`PersistenceMode.LocalOnly`): names of enumerators that QML can
+/// reach begin with a capital. The numbers are the same.
+class PersistenceModes {
+    Q_GADGET
+    QML_NAMED_ELEMENT(PersistenceMode)
+    QML_UNCREATABLE("names values only")
+
+public:
+    enum class Mode {
+        ICloud = static_cast<int>(PersistenceMode::iCloud),
+        LocalOnly = static_cast<int>(PersistenceMode::localOnly),
+        Temporary = static_cast<int>(PersistenceMode::temporary),
+        Unavailable = static_cast<int>(PersistenceMode::unavailable),
+    };
+    Q_ENUM(Mode)
+
+    [[nodiscard]] static Mode of(PersistenceMode mode) { return static_cast<Mode>(mode); }
+};
+
+} // namespace quillmere

@@ -1,0 +1,38 @@
+#include "Quillmere/shell/RouteSelection.h"
+
+namespace quillmere {
+
+namespace {
+
+constexpr std::string_view selectedRouteKey = "main.selectedRoute";
+
+AppRoute storedRoute(const platform::Preferences& preferences) {
+    const auto rawValue = preferences.string(selectedRouteKey);
+    return AppRoutes::fromRawValue(rawValue.value_or("")).value_or(AppRoute::overview);
+}
+
+} // namespace
+
+RouteSelection::RouteSelection(platform::Preferences& preferences, QObject* parent)
+    : QObject(parent), preferences_(preferences), selected_(storedRoute(preferences)) {}
+
+AppRoute RouteSelection::selected() const {
+    return selected_;
+}
+
+void RouteSelection::select(AppRoute route) {
+    if (route == selected_) {
+        return;
+    }
+    selected_ = route;
+    preferences_.setString(selectedRouteKey, rawValue(route));
+    emit selectedChanged();
+}
+
+void RouteSelection::open(const QUrl& url) {
+    if (const auto route = AppRoutes::fromURL(url.toString(QUrl::FullyEncoded).toStdString())) {
+        select(*route);
+    }
+}
+
+} // namespace quillmere
