@@ -1,0 +1,145 @@
+#pragma once
+
+#include "Platform/base/Clock.h"
+#include "Platform/store/Record.h"
+#include "QuillmereKit/records/WeekdayMinutes.h"
+#include "QuillmereKit/rules/AdjustmentKindConfiguration.h"
+#include "QuillmereKit/rules/CustomAdjustmentCategoryConfiguration.h"
+#include "QuillmereKit/rules/QuickActionConfiguration.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <tuple>
+#include <utility>
+
+namespace quillmere {
+
+struct TimeBankSettingsValues {
+    platform::Uuid id;
+    platform::Instant calculationStartDate;
+    std::int64_t startingBalanceMinutes = 0;
+    std::int64_t mondayMinutes = 480;
+    std::int64_t tuesdayMinutes = 480;
+    std::int64_t wednesdayMinutes = 480;
+    std::int64_t thursdayMinutes = 480;
+    std::int64_t fridayMinutes = 480;
+    std::int64_t saturdayMinutes = 0;
+    std::int64_t sundayMinutes = 0;
+    std::int64_t quickActionOneMinutes = 15;
+    std::int64_t quickActionTwoMinutes = 30;
+    std::int64_t quickActionThreeMinutes = 60;
+    std::int64_t quickActionFourMinutes = 120;
+    std::string visibleAdjustmentKindsRawValue = AdjustmentKindConfiguration::defaultRawValue();
+    std::string customAdjustmentCategoriesRawValue{
+        CustomAdjustmentCategoryConfiguration::defaultRawValue};
+    bool hasCompletedOnboarding = false;
+    platform::Instant modifiedAt;
+
+    /// The seven days and the four presets as stored.
+    [[nodiscard]] WeekdayMinutes weekdayMinutes() const;
+    [[nodiscard]] QuickActionConfiguration::Presets quickActionMinutes() const;
+
+    friend bool operator==(const TimeBankSettingsValues&, const TimeBankSettingsValues&) = default;
+};
+
+/// The settings record; a repaired store holds exactly one. Setters never touch `modifiedAt`;
+/// whoever writes keeps it true.
+class TimeBankSettings final : public platform::store::Record<TimeBankSettingsValues> {
+public:
+    explicit TimeBankSettings(Values values) : Record(std::move(values)) {}
+
+    /// Normalises as it stores: weekdays that are missing get the default working week and all are
+    /// clamped to 0 … 1440, quick actions are normalised, both category texts are written anew in
+    /// canonical form. Everything else as given.
+    TimeBankSettings(platform::Uuid id, platform::Instant calculationStartDate,
+                     std::int64_t startingBalanceMinutes,
+                     std::span<const std::int64_t> weekdayMinutes,
+                     std::span<const std::int64_t> quickActionMinutes,
+                     std::string_view visibleAdjustmentKindsRawValue,
+                     std::string_view customAdjustmentCategoriesRawValue,
+                     bool hasCompletedOnboarding, platform::Instant modifiedAt);
+
+    /// A new record with the defaults: random id, calculation from now on, modified now.
+    [[nodiscard]] static std::unique_ptr<TimeBankSettings> create(const platform::Clock& clock);
+    /// The same with a given time for both.
+    [[nodiscard]] static std::unique_ptr<TimeBankSettings> create(platform::Instant now);
+
+    [[nodiscard]] const platform::Uuid& id() const { return values().id; }
+    [[nodiscard]] platform::Instant calculationStartDate() const {
+        return values().calculationStartDate;
+    }
+    [[nodiscard]] std::int64_t startingBalanceMinutes() const {
+        return values().startingBalanceMinutes;
+    }
+    [[nodiscard]] const std::string& visibleAdjustmentKindsRawValue() const {
+        return values().visibleAdjustmentKindsRawValue;
+    }
+    [[nodiscard]] const std::string& customAdjustmentCategoriesRawValue() const {
+        return values().customAdjustmentCategoriesRawValue;
+    }
+    [[nodiscard]] bool hasCompletedOnboarding() const { return values().hasCompletedOnboarding; }
+    [[nodiscard]] platform::Instant modifiedAt() const { return values().modifiedAt; }
+
+    void setCalculationStartDate(platform::Instant date) {
+        assign<&Values::calculationStartDate>(date);
+    }
+    void setStartingBalanceMinutes(std::int64_t minutes) {
+        assign<&Values::startingBalanceMinutes>(minutes);
+    }
+    void setVisibleAdjustmentKindsRawValue(std::string rawValue) {
+        assign<&Values::visibleAdjustmentKindsRawValue>(std::move(rawValue));
+    }
+    void setCustomAdjustmentCategoriesRawValue(std::string rawValue) {
+        assign<&Values::customAdjustmentCategoriesRawValue>(std::move(rawValue));
+    }
+    void setHasCompletedOnboarding(bool completed) {
+        assign<&Values::hasCompletedOnboarding>(completed);
+    }
+    void setModifiedAt(platform::Instant instant) { assign<&Values::modifiedAt>(instant); }
+
+    /// Monday … Sunday as stored.
+    [[nodiscard]] WeekdayMinutes weekdayMinutes() const { return values().weekdayMinutes(); }
+    /// Monday … Sunday: missing values are 0, each is clamped to 0 … 1440, further ones are
+    /// ignored.
+    void setWeekdayMinutes(std::span<const std::int64_t> minutes);
+
+    /// The four presets as stored.
+    [[nodiscard]] QuickActionConfiguration::Presets quickActionMinutes() const {
+        return values().quickActionMinutes();
+    }
+    /// The four presets, normalised.
+    void setQuickActionMinutes(std::span<const std::int64_t> minutes);
+
+    /// Planned minutes of the day containing the instant, 0 … 1440.
+    [[nodiscard]] std::int64_t scheduledMinutes(platform::Instant on,
+                                                const platform::Calendar& calendar) const;
+};
+
+} // namespace quillmere
+
+template <>
+struct platform::store::RecordFields<quillmere::TimeBankSettingsValues> {
+    using V = quillmere::TimeBankSettingsValues;
+    static constexpr std::string_view table = "time_bank_settings";
+    static constexpr auto fields = std::tuple{
+        Field{"id", &V::id},
+        Field{"calculation_start_date", &V::calculationStartDate},
+        Field{"starting_balance_minutes", &V::startingBalanceMinutes},
+        Field{"monday_minutes", &V::mondayMinutes},
+        Field{"tuesday_minutes", &V::tuesdayMinutes},
+        Field{"wednesday_minutes", &V::wednesdayMinutes},
+        Field{"thursday_minutes", &V::thursdayMinutes},
+        Field{"friday_minutes", &V::fridayMinutes},
+        Field{"saturday_minutes", &V::saturdayMinutes},
+        Field{"sunday_minutes", &V::sundayMinutes},
+        Field{"quick_action_one_minutes", &V::quickActionOneMinutes},
+        Field{"quick_action_two_minutes", &V::quickActionTwoMinutes},
+        Field{"quick_action_three_minutes", &V::quickActionThreeMinutes},
+        Field{"quick_action_four_minutes", &V::quickActionFourMinutes},
+        Field{"visible_adjustment_kinds_raw_value", &V::visibleAdjustmentKindsRawValue},
+        Field{"custom_adjustment_categories_raw_value", &V::customAdjustmentCategoriesRawValue},
+        Field{"has_completed_onboarding", &V::hasCompletedOnboarding},
+        Field{"modified_at", &V::modifiedAt}};
+};
