@@ -1,0 +1,128 @@
+#include "Platform/json/Document.h"
+
+#include "Platform/json/LongIntegers.h"
+#include "Platform/json/SimdjsonAccess.h"
+
+#include <algorithm>
+#include <charconv>
+#include <string>
+#include <vector>
+
+namespace platform::json {
+
+namespace dom = simdjson::dom;
+
+struct Document::Storage {
+    dom::document document;
+};
+
+namespace {
+
+simdjson::error_code parseInto(dom::document& document, std::string_view text) {
+    dom::parser parser;
+    // The library wants some capacity even for an empty text; less would make it allocate again.
+    constexpr std::size_t smallestCapacity = 64;
+    const std::size_t capacity = std::max(text.size(), smallestCapacity);
+    if (const auto error = parser.allocate(capacity, maximumDepth); error != simdjson::SUCCESS) {
+        return error;
+    }
+    return parser.parse_into_document(document, text.data(), text.size()).error();
+}
+
+/// The code unit of an escape "\uXXXX" at `position`, or 0 when there is none.
+unsigned escapedUnit(std::string_view text, std::size_t position) {
+    unsigned unit = 0;
+    if (text.substr(position).starts_with("\\u") && text.size() >= position + 6) {
+        std::from_chars(text.data() + position + 2, text.data() + position + 6, unit, 16);
+    }
+    return unit;
+}
+
+/// Of a text that is valid JSON otherwise, where a backslash can only begin an escape.
+bool hasLoneSurrogate(std::string_view text) {
+    std::size_t position = text.find('\\');
+    while (position < text.size()) {
+        const unsigned unit = escapedUnit(text, position);
+        if (unit >= 0xDC00 && unit <= 0xDFFF) {
+            return true;
+        }
+        std::size_t length = 2;
+        if (unit >= 0xD800 && unit <= 0xDBFF) {
+            const unsigned second = escapedUnit(text, position + 6);
+            if (second < 0xDC00 || second > 0xDFFF) {
+                return true;
+            }
+            length = 12;
+        }
+        position = text.find('\\', position + length);
+    }
+    return false;
+}
+
+bool hasDuplicates(std::vector<std::string_view>& keys) {
+    // Comparing pairs is fastest for records; sorting bounds what a hostile text can cost.
+    if (keys.size() > 16) {
+        std::sort(keys.begin(), keys.end());
+        return std::adjacent_find(keys.begin(), keys.end()) != keys.end();
+    }
+    for (auto key = keys.begin(); key != keys.end(); ++key) {
+        if (std::find(keys.begin(), key, *key) != key) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Throws when an object in `element` repeats a key. `keys` is only scratch space.
+void checkKeys(dom::element element, std::vector<std::string_view>& keys) {
+    if (dom::object object; element.get(object) == simdjson::SUCCESS) {
+        keys.clear();
+        for (const auto& member : object) {
+            keys.push_back(member.key);
+        }
+        if (hasDuplicates(keys)) {
+            throw JsonError("a key occurs twice in one object");
+        }
+        for (const auto& member : object) {
+            checkKeys(member.value, keys);
+        }
+    } else if (dom::array array; element.get(array) == simdjson::SUCCESS) {
+        for (const auto child : array) {
+            checkKeys(child, keys);
+        }
+    }
+}
+
+} // namespace
+
+Document::Document(std::unique_ptr<Storage> storage) : storage_(std::move(storage)) {
+}
+Document::Document(Document&&) noexcept = default;
+Document& Document::operator=(Document&&) noexcept = default;
+Document::~Document() = default;
+
+Value Document::root() const {
+    return Value(positionOf(storage_->document.root()));
+}
+
+Document parse(std::string_view text) {
+    if (text.starts_with("\xEF\xBB\xBF")) {
+        throw JsonError("the text begins with a byte order mark");
+    }
+    auto storage = std::make_unique<Document::Storage>();
+    if (const auto error = parseInto(storage->document, text); error != simdjson::SUCCESS) {
+        // The library refuses whole numbers beyond 64 bits, which are good enough as doubles.
+        const std::string amended = withLongIntegersAsDoubles(text);
+        if (amended.empty() || parseInto(storage->document, amended) != simdjson::SUCCESS) {
+            throw JsonError(simdjson::error_message(error));
+        }
+    }
+    if (hasLoneSurrogate(text)) {
+        throw JsonError("a surrogate is escaped without its partner");
+    }
+    std::vector<std::string_view> keys;
+    checkKeys(storage->document.root(), keys);
+    return Document(std::move(storage));
+}
+
+} // namespace platform::json
