@@ -1,31 +1,37 @@
 #pragma once
 
 #include "Platform/base/Instant.h"
+#include "Platform/calendar/CivilDate.h"
+#include "Platform/calendar/DateInterval.h"
 #include "Platform/calendar/Region.h"
 #include "Platform/calendar/TimeZone.h"
 
-#include <compare>
+#include <cstdint>
 #include <optional>
+#include <utility>
 
 namespace platform {
 
-/// A date of the proleptic Gregorian calendar, without time or zone.
-struct CivilDate {
-    int year = 1970;
-    int month = 1; ///< 1 … 12
-    int day = 1;   ///< 1 … 31
-
-    friend constexpr auto operator<=>(const CivilDate&, const CivilDate&) = default;
-};
-
-/// Days as one user counts them: a time zone and a region. An immutable value, cheap to copy and safe
-/// to share between threads.
+/// Days as one user counts them: a time zone and a region. An immutable value, cheap to copy and
+/// safe to share between threads.
 ///
-/// A day is identified by its start: the first instant of the civil date in the zone. That is
-/// midnight, except where midnight does not exist (the first instant after the gap) and where it
-/// happens twice (the earlier of the two). A civil date that a zone skipped altogether has no start.
+/// A day is a civil date of the zone and is identified by its start: the first instant that bears
+/// the date. That is midnight, except where midnight does not exist (the first instant after the
+/// gap) and where it happens twice (the earlier of the two). A date that a zone skipped altogether
+/// has no start. Where a zone set its clocks back across midnight, an hour of the old date follows
+/// the start of the new one; it belongs to the old date.
+///
+/// Days and months are Gregorian here whatever the region's calendar system; only `DateText` writes
+/// dates in that system.
+///
+/// Every function takes every instant: outside `earliest` … `latest` the nearer of the two is
+/// meant, and 1970 for an instant that is not a number.
 class Calendar {
 public:
+    /// −9999-01-02 and 9999-12-30, both 00:00 UTC: in every zone inside the years of `CivilDate`.
+    static constexpr Instant earliest{-377705030400.0};
+    static constexpr Instant latest{253402128000.0};
+
     Calendar(TimeZone zone, Region region);
 
     [[nodiscard]] const TimeZone& timeZone() const { return zone_; }
@@ -34,24 +40,45 @@ public:
     /// The day on which weeks begin: 1 = Sunday … 7 = Saturday. From the region.
     [[nodiscard]] int firstWeekday() const { return region_.firstWeekday(); }
 
-    /// The start of the day that contains `instant`.
+    /// The start of the day that contains `instant`; never after `instant` within the range.
     [[nodiscard]] Instant startOfDay(Instant instant) const;
 
-    /// Start of the given civil date; nothing for a date that is not one, lies outside the years
-    /// −9999 … 9999 or was skipped by the zone.
+    /// Start of the given civil date; nothing for a date that is not one, was skipped by the zone,
+    /// or lies outside the days of `earliest` … `latest`.
     [[nodiscard]] std::optional<Instant> startOfDay(CivilDate date) const;
 
-    /// The same wall-clock time `days` civil days later (earlier when negative); a time that does not
-    /// exist there moves forward by the gap, one that happens twice is the earlier. A skipped civil
-    /// date is stepped over in the direction of travel. Callers that walk days take `startOfDay` of
-    /// the result again. Nothing when the result leaves the range above or `instant` is not finite.
+    /// The same wall-clock time `days` civil days later (earlier when negative); a time that does
+    /// not exist there moves forward by the gap, one that happens twice is the earlier. A skipped
+    /// civil date is stepped over in the direction of travel. Callers that walk days take
+    /// `startOfDay` of the result again. Nothing when `instant` or the result lies outside
+    /// `earliest` … `latest`.
     [[nodiscard]] std::optional<Instant> addingDays(Instant instant, int days) const;
+
+    /// As `addingDays`, by months: the same day of the month, or the last one of a shorter month.
+    [[nodiscard]] std::optional<Instant> addingMonths(Instant instant, int months) const;
+
+    /// The wall-clock time of `time` on another date, by the rules of `addingDays`; nothing for a
+    /// date that has no start.
+    [[nodiscard]] std::optional<Instant> atDate(CivilDate date, Instant time) const;
 
     /// Seconds added as elapsed time; nothing when the result is not finite.
     [[nodiscard]] std::optional<Instant> addingSeconds(Instant instant, double seconds) const;
 
-    /// Civil date of the instant in this zone. Instants outside the range above are clamped into it.
+    /// The week that contains `instant`, from the start of its first day (`firstWeekday`) to the
+    /// start of the next week's. Where that first day was skipped the week begins with the day
+    /// after it.
+    [[nodiscard]] DateInterval weekInterval(Instant instant) const;
+
+    /// The month that contains `instant`, from the start of its first day to that of the next
+    /// month.
+    [[nodiscard]] DateInterval monthInterval(Instant instant) const;
+
+    /// Civil date of the instant in this zone.
     [[nodiscard]] CivilDate civilDate(Instant instant) const;
+
+    /// What the clocks of this zone show, as whole seconds since 1970-01-01 00:00 on that same
+    /// clock: a civil time without zone, for writing it.
+    [[nodiscard]] std::int64_t civilSeconds(Instant instant) const;
 
     /// 1 = Sunday, 2 = Monday, … 7 = Saturday, in this zone.
     [[nodiscard]] int weekday(Instant instant) const;
