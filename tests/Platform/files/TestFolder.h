@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+
+/// A new folder under the temporary one, removed with everything in it.
+class TestFolder {
+public:
+    TestFolder();
+    ~TestFolder();
+    TestFolder(const TestFolder&) = delete;
+    TestFolder& operator=(const TestFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+/// Mounts a file system of a few pages at `folder`, in a mount namespace that ends with this
+/// process. Answers whether that is permitted here. The process must have one thread only.
+[[nodiscard]] bool mountSmallDisk(const std::filesystem::path& folder);
+
+/// Makes the disk mounted at `folder` read-only.
+[[nodiscard]] bool makeReadOnly(const std::filesystem::path& folder);
