@@ -1,6 +1,13 @@
 #pragma once
 
+#include "Platform/base/Instant.h"
+#include "Platform/base/Uuid.h"
+
+#include <bit>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
@@ -14,7 +21,7 @@ namespace platform::store {
 template <class Values, class T>
 struct Field {
     std::string_view column;
-    T Values::* member;
+    T Values::*member;
 };
 
 template <class Values, class T>
@@ -25,7 +32,8 @@ Field(std::string_view, T Values::*) -> Field<Values, T>;
 ///     static constexpr std::string_view table = "reminder";
 ///     static constexpr auto fields = std::tuple{Field{"id", &ReminderValues::id}, …};
 ///
-/// The member named `id` (a `Uuid`) is required: deletions leave it behind in their tombstone.
+/// The column named `id` (a `Uuid`) is required: deletions leave it behind in their tombstone. The
+/// names `row_key` and `revision`, and tables beginning with `store_` or `sqlite_`, are taken.
 template <class Values>
 struct RecordFields;
 
@@ -51,7 +59,34 @@ consteval std::size_t fieldIndex() {
             throw "the member is not among the fields";
         }
         return found;
-    }(std::make_index_sequence<fieldCount<Values>>{});
+    }
+    (std::make_index_sequence<fieldCount<Values>>{});
+}
+
+template <class>
+struct MemberPointer;
+
+template <class V, class T>
+struct MemberPointer<T V::*> {
+    using Type = T;
+};
+
+/// The type of the member that a member pointer points to.
+template <auto Member>
+using FieldType = typename MemberPointer<std::remove_const_t<decltype(Member)>>::Type;
+
+/// Whether two field values are stored alike. Instants are compared bit for bit: NaN is the same as
+/// itself, and zero differs from negative zero.
+template <class T>
+[[nodiscard]] bool sameValue(const T& a, const T& b) {
+    if constexpr (std::is_same_v<T, Instant>) {
+        return std::bit_cast<std::uint64_t>(a.secondsSince1970) ==
+               std::bit_cast<std::uint64_t>(b.secondsSince1970);
+    } else if constexpr (std::is_same_v<T, std::optional<Instant>>) {
+        return a.has_value() == b.has_value() && (!a || sameValue(*a, *b));
+    } else {
+        return a == b;
+    }
 }
 
 } // namespace platform::store

@@ -18,8 +18,8 @@ enum class StoreFault {
     misuse,      ///< a request the store cannot carry out (programmer fault that input can cause)
 };
 
-/// The one exception the store throws. `what()` is an English sentence with the details, for the log;
-/// users are shown texts of the application's own.
+/// The one exception the store throws. `what()` is an English sentence with the details, for the
+/// log; users are shown texts of the application's own.
 class StoreError : public std::runtime_error {
 public:
     StoreError(StoreFault fault, const std::string& description)

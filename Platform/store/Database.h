@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Platform/store/Statement.h"
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+struct sqlite3;
+
+namespace platform::store {
+
+/// What all connections of one opened store know of its file.
+struct StoreHealth {
+    std::atomic<bool> damaged = false; ///< SQLite found damage: no more saves
+    std::atomic<bool> failedCommit =
+        false; ///< the log may end in a commit that was reported failed
+};
+
+/// One connection to an SQLite database, for one thread at a time. Failures throw `StoreError`.
+class Database {
+public:
+    struct Options {
+        std::string uri; ///< file name or `file:` URI
+        const char* vfs = nullptr;
+        bool create = false;
+        int busyTimeoutMilliseconds = 0;
+    };
+
+    Database(const Options& options, std::shared_ptr<StoreHealth> health);
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    /// The statement compiled from one SQL text, kept for the next time.
+    [[nodiscard]] Statement prepare(std::string_view sql);
+    /// Runs SQL texts that answer nothing.
+    void execute(const std::string& sql);
+    /// First column of the first row.
+    [[nodiscard]] std::int64_t integer(std::string_view sql);
+
+    [[nodiscard]] std::int64_t lastInsertKey() const;
+    /// Rows concerned by the latest statement.
+    [[nodiscard]] int changedRows() const;
+    [[nodiscard]] bool isInTransaction() const;
+    /// Whether the file could only be opened for reading.
+    [[nodiscard]] bool isReadOnly() const;
+    /// Whether closing the last connection moves the log into the file; so it is at first.
+    void setCheckpointOnClose(bool checkpoint);
+
+    [[nodiscard]] StoreHealth& health() const { return *health_; }
+    [[nodiscard]] sqlite3* handle() const { return handle_.get(); }
+
+    /// Throws the `StoreError` for an SQLite result code of this connection.
+    [[noreturn]] void fail(int result) const;
+
+private:
+    friend class Statement;
+    struct Closer {
+        void operator()(sqlite3* handle) const;
+    };
+    struct Finalizer {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+
+    void giveBack(std::string_view poolKey, sqlite3_stmt* statement);
+
+    std::shared_ptr<StoreHealth> health_;
+    std::unique_ptr<sqlite3, Closer> handle_;
+    std::map<std::string, std::unique_ptr<sqlite3_stmt, Finalizer>, std::less<>> pool_;
+};
+
+} // namespace platform::store
