@@ -1,0 +1,125 @@
+"""A program running on a desktop."""
+import subprocess
+
+from . import children, picture
+from .accessible import Gone, program_of
+from .waiting import TookTooLong, eventually
+
+
+class Program:
+    """One start of the program at `path`. Its output goes to `log`."""
+
+    def __init__(self, desktop, path, *arguments, log=None, **environment):
+        self.desktop = desktop
+        self.log = log or desktop.home / "program.log"
+        with open(self.log, "ab") as output:
+            self.process = children.start(
+                [str(path), *arguments], env=desktop.environment | environment,
+                stdin=subprocess.DEVNULL, stdout=output, stderr=output)
+
+    def root(self):
+        """The top of the accessibility tree; waits for the program to show itself."""
+
+        def look():
+            if self.process.poll() is not None:
+                raise RuntimeError(f"the program ended with {self.process.returncode}:\n"
+                                   + self.log.read_text(errors="replace"))
+            return program_of(self.desktop.accessibility_bus, self.process.pid)
+
+        return eventually(look, "the program is on the accessibility bus")
+
+    def find(self, role=None, name=None):
+        return self.root().find(role, name)
+
+    def await_element(self, role=None, name=None, limit=None):
+        root = self.root()
+        return self._eventually(lambda: root.find(role, name), f"a {role} named {name!r}", limit)
+
+    def await_absence(self, role=None, name=None, limit=None):
+        root = self.root()
+        self._eventually(lambda: root.find(role, name) is None, f"no {role} named {name!r}", limit)
+
+    def await_true(self, check, what, limit=None):
+        """Waits for `check`, for which an object that is gone is the same as false."""
+
+        def careful():
+            try:
+                return check()
+            except Gone:
+                return False
+
+        return self._eventually(careful, what, limit)
+
+    def press(self, role, name):
+        self.await_element(role, name).press()
+
+    def focused(self):
+        """The object that has the keyboard, or None."""
+        found = None
+        try:
+            for candidate in self.root().descendants():
+                if "focused" in candidate.states:
+                    found = candidate
+        except Gone:
+            return None
+        return found
+
+    def keys(self, *names):
+        """Presses keys as a person does; the window that is active gets them."""
+        self._xdotool("key", "--clearmodifiers", "--delay", "0", *names)
+
+    def type(self, text):
+        self._xdotool("type", "--clearmodifiers", "--delay", "0", text)
+
+    def click(self, element):
+        left, top, width, height = element.extents
+        self._xdotool("mousemove", left + width // 2, top + height // 2, "click", "1")
+
+    def await_active(self):
+        """Waits until the window is shown and has the keyboard."""
+        root = self.root()
+        self.await_true(lambda: any("active" in window.states for window in root.children),
+                        "the window is active")
+
+    def window(self):
+        """The X11 identifier of the main window."""
+
+        def look():
+            answer = self._xdotool("search", "--onlyvisible", "--pid", self.process.pid, check=False)
+            return answer.split()[-1:]
+
+        return eventually(look, "the program has a window")[0]
+
+    def resize(self, width, height):
+        self._xdotool("windowsize", "--sync", self.window(), width, height)
+
+    def geometry(self):
+        """Left, top, width and height of the main window, in pixels."""
+        answer = self._xdotool("getwindowgeometry", "--shell", self.window())
+        values = dict(line.split("=") for line in answer.split())
+        return tuple(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def picture(self):
+        """The main window once it has come to rest."""
+        return picture.settled(lambda: picture.cut(self.desktop.screen(), *self.geometry()))
+
+    def await_exit(self, limit=60):
+        """The exit status."""
+        return self.process.wait(limit)
+
+    def kill(self):
+        """Ends it at once, as a crash or a power cut would."""
+        self.process.kill()
+        self.process.wait()
+
+    def _xdotool(self, *words, check=True):
+        answer = subprocess.run(["xdotool", *map(str, words)], env=self.desktop.environment,
+                                stdout=subprocess.PIPE, text=True, check=check, timeout=60)
+        return answer.stdout
+
+    def _eventually(self, check, what, limit):
+        try:
+            return eventually(check, what, **({"limit": limit} if limit else {}))
+        except TookTooLong as problem:
+            output = self.log.read_text(errors="replace")[-3000:]
+            raise TookTooLong(f"{problem}\n{self.root().describe()}\n{output}") from None
