@@ -18,7 +18,8 @@ public:
     [[nodiscard]] virtual std::vector<std::string> strings(std::string_view key) const = 0;
 };
 
-/// Reads `entitlements.json`, anew at each call. A file that is missing or unreadable holds nothing.
+/// Reads `entitlements.json`, anew at each call. A file that is missing or unreadable holds
+/// nothing.
 class FileEntitlements final : public Entitlements {
 public:
     explicit FileEntitlements(std::filesystem::path file);
