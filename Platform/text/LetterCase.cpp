@@ -1,0 +1,50 @@
+#include "Platform/text/LetterCase.h"
+
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/normalizer2.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace platform {
+namespace {
+
+void require(UErrorCode status) {
+    if (U_FAILURE(status))
+        throw std::runtime_error(std::string("ICU cannot map letter case: ") + u_errorName(status));
+}
+
+std::string lowercasedAscii(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower)
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    return lower;
+}
+
+std::string lowercasedUnicode(std::string_view text) {
+    const icu::StringPiece source(text.data(), static_cast<std::int32_t>(text.size()));
+    UErrorCode status = U_ZERO_ERROR;
+    std::string lower;
+    icu::StringByteSink<std::string> lowerSink(&lower);
+    icu::CaseMap::utf8ToLower("", 0, source, lowerSink, nullptr, status);
+    require(status);
+    const auto* composition = icu::Normalizer2::getNFCInstance(status);
+    require(status);
+    std::string composed;
+    icu::StringByteSink<std::string> composedSink(&composed);
+    composition->normalizeUTF8(0, lower, composedSink, nullptr, status);
+    require(status);
+    return composed;
+}
+
+} // namespace
+
+std::string lowercasedForComparison(std::string_view text) {
+    const bool isAscii = std::all_of(text.begin(), text.end(),
+                                     [](char c) { return static_cast<signed char>(c) >= 0; });
+    return isAscii ? lowercasedAscii(text) : lowercasedUnicode(text);
+}
+
+} // namespace platform
