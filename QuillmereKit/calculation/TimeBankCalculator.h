@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Platform/calendar/Calendar.h"
-#include "QuillmereKit/calculation/DateInterval.h"
 #include "QuillmereKit/calculation/DayBalance.h"
 
 #include <cstdint>
@@ -40,10 +39,10 @@ namespace TimeBankCalculator {
 /// One value for each day the interval touches, ascending, days without changes included. The
 /// interval's end is not part of it. Empty for an inverted interval.
 [[nodiscard]] std::vector<DayBalance> ledgerDayBalances(std::span<const LedgerRow> adjustments,
-                                                        DateInterval in,
+                                                        platform::DateInterval in,
                                                         const platform::Calendar& calendar);
 [[nodiscard]] std::vector<DayBalance>
-ledgerDayBalances(std::span<BalanceAdjustment* const> adjustments, DateInterval in,
+ledgerDayBalances(std::span<BalanceAdjustment* const> adjustments, platform::DateInterval in,
                   const platform::Calendar& calendar);
 
 /// The tracked days from the settings' calculation start (not before 2000) to the day of `through`.
@@ -67,7 +66,7 @@ dayBalances(std::span<WorkEntry* const> entries, std::span<BalanceAdjustment* co
                                             const platform::Calendar& calendar);
 
 /// Seconds one entry worked within an interval, its break shared out in proportion.
-[[nodiscard]] double workedSeconds(const WorkEntry& entry, DateInterval during,
+[[nodiscard]] double workedSeconds(const WorkEntry& entry, platform::DateInterval during,
                                    platform::Instant asOf);
 
 } // namespace TimeBankCalculator

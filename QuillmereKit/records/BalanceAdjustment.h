@@ -2,29 +2,16 @@
 
 #include "Platform/base/Clock.h"
 #include "Platform/store/Record.h"
+#include "QuillmereKit/records/BalanceAdjustmentValues.h"
 #include "QuillmereKit/rules/AdjustmentCategoryOption.h"
 #include "QuillmereKit/rules/BalanceAdjustmentKind.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <tuple>
 #include <utility>
 
 namespace quillmere {
-
-struct BalanceAdjustmentValues {
-    platform::Uuid id;
-    platform::Instant date;
-    std::int64_t minutes = 0;
-    std::string note;
-    std::string kindRawValue = "manual";
-    platform::Instant createdAt;
-    platform::Instant modifiedAt;
-
-    friend bool operator==(const BalanceAdjustmentValues&,
-                           const BalanceAdjustmentValues&) = default;
-};
 
 /// One signed change of the balance. Setters never touch `modifiedAt`; whoever writes keeps it
 /// true.
@@ -71,16 +58,3 @@ public:
 };
 
 } // namespace quillmere
-
-template <>
-struct platform::store::RecordFields<quillmere::BalanceAdjustmentValues> {
-    using V = quillmere::BalanceAdjustmentValues;
-    static constexpr std::string_view table = "balance_adjustment";
-    static constexpr auto fields = std::tuple{Field{"id", &V::id},
-                                              Field{"date", &V::date},
-                                              Field{"minutes", &V::minutes},
-                                              Field{"note", &V::note},
-                                              Field{"kind_raw_value", &V::kindRawValue},
-                                              Field{"created_at", &V::createdAt},
-                                              Field{"modified_at", &V::modifiedAt}};
-};

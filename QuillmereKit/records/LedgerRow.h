@@ -2,8 +2,8 @@
 
 #include "Platform/base/Instant.h"
 #include "Platform/base/Uuid.h"
-#include "Platform/store/LiveQuery.h"
-#include "QuillmereKit/records/BalanceAdjustment.h"
+#include "Platform/store/RowKey.h"
+#include "QuillmereKit/records/BalanceAdjustmentValues.h"
 
 #include <cstdint>
 #include <optional>
@@ -11,22 +11,26 @@
 namespace quillmere {
 
 /// What lists and sums need of a change, packed for a live query of the whole history. Newest
-/// first; changes of one instant by their identifiers' texts, greatest first, then by their rows.
+/// first; changes of one instant by their identifiers' texts, greatest first, then by their place
+/// in the store.
 ///
 /// Every change has a row, since every change counts in the balance; `isListed` says whether lists
 /// show it.
 struct LedgerRow {
     platform::store::RowRef ref;
-    platform::Instant date;
+    platform::Instant date; ///< the earliest of all where the record's is not a number
     std::int64_t minutes = 0;
     platform::Uuid id;
-    std::uint32_t contentHash = 0; ///< of note, category and times: tells that a list must redraw
+    platform::Instant modifiedAt;
+    std::uint32_t contentHash = 0; ///< of note and category: rows differ when a list must redraw
     bool isListed = false;         ///< not of zero minutes and not the migration's marker
 
     [[nodiscard]] static std::optional<LedgerRow> make(platform::store::RowRef ref,
                                                        const BalanceAdjustmentValues& values);
 
-    friend bool operator<(const LedgerRow& a, const LedgerRow& b);
+    friend bool operator<(const LedgerRow& a, const LedgerRow& b) {
+        return a.date != b.date ? a.date > b.date : a.id > b.id;
+    }
     friend bool operator==(const LedgerRow&, const LedgerRow&) = default;
 };
 

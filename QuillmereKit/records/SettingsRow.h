@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Platform/store/LiveQuery.h"
-#include "QuillmereKit/records/TimeBankSettings.h"
+#include "Platform/store/RowKey.h"
+#include "QuillmereKit/records/TimeBankSettingsValues.h"
 
 #include <optional>
 

@@ -2,27 +2,15 @@
 
 #include "Platform/base/Clock.h"
 #include "Platform/store/Record.h"
+#include "QuillmereKit/records/WorkEntryValues.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
-#include <tuple>
 #include <utility>
 
 namespace quillmere {
-
-struct WorkEntryValues {
-    platform::Uuid id;
-    platform::Instant startedAt;
-    std::optional<platform::Instant> endedAt;
-    std::int64_t breakMinutes = 0;
-    std::string note;
-    platform::Instant createdAt;
-    platform::Instant modifiedAt;
-
-    friend bool operator==(const WorkEntryValues&, const WorkEntryValues&) = default;
-};
 
 /// One worked interval. Setters never touch `modifiedAt`; whoever writes keeps it true.
 class WorkEntry final : public platform::store::Record<WorkEntryValues> {
@@ -62,16 +50,3 @@ public:
 };
 
 } // namespace quillmere
-
-template <>
-struct platform::store::RecordFields<quillmere::WorkEntryValues> {
-    using V = quillmere::WorkEntryValues;
-    static constexpr std::string_view table = "work_entry";
-    static constexpr auto fields = std::tuple{Field{"id", &V::id},
-                                              Field{"started_at", &V::startedAt},
-                                              Field{"ended_at", &V::endedAt},
-                                              Field{"break_minutes", &V::breakMinutes},
-                                              Field{"note", &V::note},
-                                              Field{"created_at", &V::createdAt},
-                                              Field{"modified_at", &V::modifiedAt}};
-};

@@ -2,34 +2,14 @@
 
 #include "Platform/base/Clock.h"
 #include "Platform/store/Record.h"
-#include "QuillmereKit/records/WeekdayMinutes.h"
+#include "QuillmereKit/records/WorkScheduleValues.h"
 
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <tuple>
 #include <utility>
 
 namespace quillmere {
-
-struct WorkScheduleValues {
-    platform::Uuid id;
-    platform::Instant effectiveFrom;
-    std::int64_t mondayMinutes = 480;
-    std::int64_t tuesdayMinutes = 480;
-    std::int64_t wednesdayMinutes = 480;
-    std::int64_t thursdayMinutes = 480;
-    std::int64_t fridayMinutes = 480;
-    std::int64_t saturdayMinutes = 0;
-    std::int64_t sundayMinutes = 0;
-    platform::Instant createdAt;
-    platform::Instant modifiedAt;
-
-    /// The seven days as stored.
-    [[nodiscard]] WeekdayMinutes weekdayMinutes() const;
-
-    friend bool operator==(const WorkScheduleValues&, const WorkScheduleValues&) = default;
-};
 
 /// A week of planned minutes that applies from a date on. Setters never touch `modifiedAt`.
 class WorkSchedule final : public platform::store::Record<WorkScheduleValues> {
@@ -65,20 +45,3 @@ public:
 };
 
 } // namespace quillmere
-
-template <>
-struct platform::store::RecordFields<quillmere::WorkScheduleValues> {
-    using V = quillmere::WorkScheduleValues;
-    static constexpr std::string_view table = "work_schedule";
-    static constexpr auto fields = std::tuple{Field{"id", &V::id},
-                                              Field{"effective_from", &V::effectiveFrom},
-                                              Field{"monday_minutes", &V::mondayMinutes},
-                                              Field{"tuesday_minutes", &V::tuesdayMinutes},
-                                              Field{"wednesday_minutes", &V::wednesdayMinutes},
-                                              Field{"thursday_minutes", &V::thursdayMinutes},
-                                              Field{"friday_minutes", &V::fridayMinutes},
-                                              Field{"saturday_minutes", &V::saturdayMinutes},
-                                              Field{"sunday_minutes", &V::sundayMinutes},
-                                              Field{"created_at", &V::createdAt},
-                                              Field{"modified_at", &V::modifiedAt}};
-};
