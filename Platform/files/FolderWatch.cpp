@@ -55,6 +55,16 @@ FolderWatch::FolderWatch(fs::path folder)
 
 FolderChanges FolderWatch::drain() {
     FolderChanges changes;
+    while (collect(changes)) {
+        const bool wasThere = watchedFolder_ == folder_;
+        rearm();
+        changes.isEverything |= wasThere || watchedFolder_ == folder_;
+    }
+    return changes;
+}
+
+/// Takes all waiting events. Answers whether another folder may have to be watched now.
+bool FolderWatch::collect(FolderChanges& changes) {
     bool mustRearm = false;
     forEachEvent(fd_.get(), [&](const inotify_event& event, const char* name) {
         if ((event.mask & IN_Q_OVERFLOW) == 0 && event.wd != watched_) {
@@ -66,12 +76,7 @@ FolderChanges FolderWatch::drain() {
             changes.names.insert(name);
         }
     });
-    if (mustRearm) {
-        const bool wasThere = watchedFolder_ == folder_;
-        rearm();
-        changes.isEverything = wasThere || watchedFolder_ == folder_;
-    }
-    return changes;
+    return mustRearm;
 }
 
 bool FolderWatch::watch(const fs::path& folder) {

@@ -39,6 +39,7 @@ public:
     [[nodiscard]] FolderChanges drain();
 
 private:
+    bool collect(FolderChanges& changes);
     void rearm();
     [[nodiscard]] bool watch(const std::filesystem::path& folder);
 
