@@ -1,0 +1,67 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere.theme
+import Quillmere.controls
+import Quillmere.dashboard
+
+// The overview.
+FocusScope {
+    id: root
+
+    required property DashboardViewModel model
+
+    readonly property string title: qsTr("Time bank")
+
+    objectName: "overview.screen"
+    Accessible.role: Accessible.Pane
+    Accessible.name: root.title
+
+    ScrollArea {
+        anchors.fill: parent
+        topPadding: Theme.spaceL
+        // Room to scroll everything out from under the banner.
+        bottomPadding: banner.visible ? banner.height + 2 * Theme.spaceL : Theme.spaceXL
+
+        BalanceHeroView {
+            width: parent.width
+            summary: root.model.summary
+            trend: root.model.trend
+            trendSpoken: root.model.trendSpoken
+            trendRangeDays: root.model.trendRangeDays
+            trendRangeIndex: root.model.trendRangeIndex
+            trendRangeTitles: root.model.trendRangeTitles
+            onTrendRangeChosen: index => root.model.chooseTrendRange(index)
+        }
+
+        RecordTimeSection {
+            width: parent.width
+            onGuideChosen: guide.open()
+        }
+
+        RecentActivitySection {
+            width: parent.width
+            visible: root.model.hasActivity
+            items: root.model.recentItems
+            historyURL: root.model.historyURL
+        }
+    }
+
+    UndoBanner {
+        id: banner
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.spaceL
+        offer: root.model.undoOffer
+    }
+
+    Sheet {
+        id: guide
+
+        TimeBankGuideView {
+            focus: true
+            onDone: guide.close()
+        }
+    }
+}

@@ -1,0 +1,188 @@
+#include "Quillmere/dashboard/DashboardViewModel.h"
+
+#include "Platform/preferences/Preferences.h"
+#include "Platform/store/Context.h"
+#include "Quillmere/shell/StoreSession.h"
+#include "Quillmere/shell/TimeFollower.h"
+#include "QuillmereKit/calculation/BalanceTrend.h"
+#include "QuillmereKit/calculation/LedgerActivity.h"
+#include "QuillmereKit/calculation/TimeBankCalculator.h"
+#include "QuillmereKit/navigation/AppRoute.h"
+#include "QuillmereKit/rules/DurationFormatting.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace quillmere {
+
+using platform::Instant;
+using platform::store::Comparison;
+using platform::store::Filter;
+using platform::store::LiveState;
+
+DashboardViewModel::DashboardViewModel(StoreSession& session, AppState& appState,
+                                       platform::Preferences& preferences,
+                                       std::unique_ptr<Countdown> undoCountdown, QObject* parent)
+    : QObject(parent),
+      session_(session),
+      preferences_(preferences),
+      dates_(session.time().current()),
+      nextChange_(session.time().clock()),
+      undoOffer_(session, appState, std::move(undoCountdown)),
+      range_(BalanceTrendRanges::fromDayCount(
+          preferences.number(trendRangeKey).value_or(dayCount(BalanceTrendRange::month)))) {
+    connect(&session_, &StoreSession::adjustmentsChanged, this, &DashboardViewModel::updateAll);
+    connect(&session_, &StoreSession::settingsChanged, this,
+            &DashboardViewModel::onSettingsChanged);
+    connect(&session_.time(), &TimeFollower::changed, this, &DashboardViewModel::onTimeChanged);
+    connect(&nextChange_, &InstantTimer::fired, this, &DashboardViewModel::updateFigures);
+    updateAll();
+}
+
+DashboardViewModel::~DashboardViewModel() = default;
+
+QString DashboardViewModel::trendSpoken() const {
+    return trend_.isEmpty() ? QString()
+                            : QString::fromStdString(DurationFormatting::accessible(trend_.last()));
+}
+
+int DashboardViewModel::trendRangeIndex() const {
+    const auto& all = BalanceTrendRanges::all;
+    return static_cast<int>(std::find(all.begin(), all.end(), range_) - all.begin());
+}
+
+QStringList DashboardViewModel::trendRangeTitles() {
+    QStringList titles;
+    for (const BalanceTrendRange range : BalanceTrendRanges::all) {
+        const std::string_view text = title(range);
+        titles.append(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    }
+    return titles;
+}
+
+QUrl DashboardViewModel::historyURL() {
+    return QUrl(QString::fromStdString(url(AppRoute::history)), QUrl::StrictMode);
+}
+
+void DashboardViewModel::chooseTrendRange(int index) {
+    const BalanceTrendRange range = BalanceTrendRanges::all.at(static_cast<std::size_t>(index));
+    preferences_.setNumber(trendRangeKey, dayCount(range));
+    if (std::exchange(range_, range) != range) {
+        emit trendRangeChanged();
+        updateTrend();
+    }
+}
+
+void DashboardViewModel::updateAll() {
+    updateFigures();
+    updateRecent();
+}
+
+void DashboardViewModel::onSettingsChanged() {
+    if (startingBalanceMinutes() != startingBalance_) {
+        updateFigures();
+    }
+}
+
+void DashboardViewModel::onTimeChanged() {
+    dates_ = platform::DateText(session_.time().current());
+    updateAll();
+}
+
+void DashboardViewModel::updateFigures() {
+    startingBalance_ = startingBalanceMinutes();
+    updateSummary();
+    updateTrend();
+    scheduleNextChange();
+}
+
+void DashboardViewModel::updateSummary() {
+    const Instant now = session_.time().now();
+    const BalanceSummary summary =
+        isLoading() ? BalanceSummary::of(balanceFromStore(), std::nullopt)
+                    : BalanceSummary::of(
+                          TimeBankCalculator::ledgerBalanceSeconds(rows(), startingBalance_, now),
+                          LedgerActivity::secondsToday(rows(), now, session_.time().current()));
+    if (summary != summary_) {
+        summary_ = summary;
+        emit summaryChanged();
+    }
+}
+
+void DashboardViewModel::updateTrend() {
+    QList<double> trend;
+    if (!isLoading()) {
+        const auto series = BalanceTrend::series(rows(), startingBalance_, range_,
+                                                 session_.time().now(), session_.time().current());
+        trend = QList<double>(series.begin(), series.end());
+    }
+    if (trend != trend_) {
+        trend_ = std::move(trend);
+        emit trendChanged();
+    }
+}
+
+void DashboardViewModel::updateRecent() {
+    std::vector<RecentActivityModel::Item> items;
+    for (const LedgerRow& row : LedgerActivity::recentItems(rows())) {
+        if (const BalanceAdjustment* record = recordOf(row)) {
+            items.push_back({record, LedgerTransaction::of(*record, dates_)});
+        }
+    }
+    const bool hasActivity = !items.empty();
+    recentItems_.setItems(std::move(items));
+    if (std::exchange(hasActivity_, hasActivity) != hasActivity) {
+        emit hasActivityChanged();
+    }
+}
+
+// Rows are newest first, so those still to come stand at the front, the next one last of them.
+void DashboardViewModel::scheduleNextChange() {
+    const Instant now = session_.time().now();
+    const auto due = std::partition_point(rows().begin(), rows().end(),
+                                          [&](const LedgerRow& row) { return row.date > now; });
+    if (due == rows().begin()) {
+        nextChange_.cancel();
+    } else {
+        nextChange_.schedule(std::prev(due)->date);
+    }
+}
+
+bool DashboardViewModel::isLoading() const {
+    return session_.adjustments().state() == LiveState::loading;
+}
+
+std::span<const LedgerRow> DashboardViewModel::rows() const {
+    return isLoading() ? std::span<const LedgerRow>() : session_.adjustments().rows();
+}
+
+std::int64_t DashboardViewModel::startingBalanceMinutes() const {
+    const TimeBankSettings* settings = session_.settingsRecord();
+    return settings ? settings->startingBalanceMinutes()
+                    : TimeBankSettingsValues{}.startingBalanceMinutes;
+}
+
+// A row whose record cannot be read is left out; the next publication tries again.
+const BalanceAdjustment* DashboardViewModel::recordOf(const LedgerRow& row) const {
+    try {
+        return session_.context().find<BalanceAdjustment>(row.ref);
+    } catch (const platform::store::StoreError&) {
+        return nullptr;
+    }
+}
+
+double DashboardViewModel::balanceFromStore() const {
+    using Values = BalanceAdjustmentValues;
+    try {
+        const auto due = Filter<BalanceAdjustment>{}.where<&Values::date>(Comparison::lessOrEqual,
+                                                                          session_.time().now());
+        const std::int64_t minutes =
+            session_.context().sum<BalanceAdjustment, &Values::minutes>(due);
+        return static_cast<double>(startingBalance_) * 60 + static_cast<double>(minutes) * 60;
+    } catch (const platform::store::StoreError&) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+}
+
+} // namespace quillmere

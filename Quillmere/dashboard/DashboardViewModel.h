@@ -1,0 +1,110 @@
+#pragma once
+
+#include "Platform/calendar/DateText.h"
+#include "Quillmere/dashboard/BalanceSummary.h"
+#include "Quillmere/dashboard/RecentActivityModel.h"
+#include "Quillmere/dashboard/UndoOffer.h"
+#include "Quillmere/shell/InstantTimer.h"
+#include "QuillmereKit/calculation/BalanceTrendRange.h"
+#include "QuillmereKit/records/LedgerRow.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QStringList>
+#include <QtCore/QUrl>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+#include <optional>
+#include <span>
+
+namespace platform {
+class Preferences;
+}
+
+namespace quillmere {
+
+/// The overview: the balance now, today's change, the balance over the last days, the latest
+/// changes, and the offer to undo the change just recorded. Made when the screen is shown, gone
+/// with it. Main thread.
+///
+/// The figures follow the records, the settings, the range and the time: they move at midnight,
+/// with clock and zone, and when a change dated in the future comes due. While the history is being
+/// read the balance is summed in the store and everything else is left out.
+class DashboardViewModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(quillmere::BalanceSummary summary READ summary NOTIFY summaryChanged)
+    /// Balances in seconds, one a day, oldest first; empty while the history is being read.
+    Q_PROPERTY(QList<double> trend READ trend NOTIFY trendChanged)
+    Q_PROPERTY(QString trendSpoken READ trendSpoken NOTIFY trendChanged)
+    Q_PROPERTY(int trendRangeDays READ trendRangeDays NOTIFY trendRangeChanged)
+    Q_PROPERTY(int trendRangeIndex READ trendRangeIndex NOTIFY trendRangeChanged)
+    Q_PROPERTY(QStringList trendRangeTitles READ trendRangeTitles CONSTANT)
+    Q_PROPERTY(quillmere::RecentActivityModel* recentItems READ recentItems CONSTANT)
+    Q_PROPERTY(bool hasActivity READ hasActivity NOTIFY hasActivityChanged)
+    /// The link to the screen with all changes; empty when it cannot be formed.
+    Q_PROPERTY(QUrl historyURL READ historyURL CONSTANT)
+    Q_PROPERTY(quillmere::UndoOffer* undoOffer READ undoOffer CONSTANT)
+
+public:
+    /// Day count of the chosen range in the standard preferences.
+    static constexpr std::string_view trendRangeKey = "overview.balanceTrendRangeDays";
+
+    /// All references must outlive the object.
+    DashboardViewModel(StoreSession& session, AppState& appState,
+                       platform::Preferences& preferences, std::unique_ptr<Countdown> undoCountdown,
+                       QObject* parent = nullptr);
+    ~DashboardViewModel() override;
+
+    [[nodiscard]] const BalanceSummary& summary() const { return summary_; }
+    [[nodiscard]] const QList<double>& trend() const { return trend_; }
+    [[nodiscard]] QString trendSpoken() const;
+    [[nodiscard]] int trendRangeDays() const { return dayCount(range_); }
+    [[nodiscard]] int trendRangeIndex() const;
+    [[nodiscard]] static QStringList trendRangeTitles();
+    [[nodiscard]] RecentActivityModel* recentItems() { return &recentItems_; }
+    [[nodiscard]] bool hasActivity() const { return hasActivity_; }
+    [[nodiscard]] static QUrl historyURL();
+    [[nodiscard]] UndoOffer* undoOffer() { return &undoOffer_; }
+
+    /// Shows and remembers the range at this position of `trendRangeTitles`.
+    Q_INVOKABLE void chooseTrendRange(int index);
+
+signals:
+    void summaryChanged();
+    void trendChanged();
+    void trendRangeChanged();
+    void hasActivityChanged();
+
+private:
+    void onSettingsChanged();
+    void onTimeChanged();
+    void updateAll();
+    void updateFigures();
+    void updateSummary();
+    void updateTrend();
+    void updateRecent();
+    void scheduleNextChange();
+
+    [[nodiscard]] bool isLoading() const;
+    [[nodiscard]] std::span<const LedgerRow> rows() const;
+    [[nodiscard]] std::int64_t startingBalanceMinutes() const;
+    [[nodiscard]] const BalanceAdjustment* recordOf(const LedgerRow& row) const;
+    [[nodiscard]] double balanceFromStore() const;
+
+    StoreSession& session_;
+    platform::Preferences& preferences_;
+    platform::DateText dates_;
+    InstantTimer nextChange_;
+    UndoOffer undoOffer_;
+    RecentActivityModel recentItems_;
+    BalanceSummary summary_;
+    QList<double> trend_;
+    BalanceTrendRange range_;
+    std::int64_t startingBalance_ = 0; ///< the one the figures were computed with
+    bool hasActivity_ = false;
+};
+
+} // namespace quillmere

@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.theme
+import Quillmere.controls
+
+// The two ways to record a change, and the way to the guide.
+ColumnLayout {
+    id: root
+
+    signal addChosen()
+    signal takeChosen()
+    signal guideChosen()
+
+    spacing: Theme.spaceS
+
+    RowLayout {
+        Layout.fillWidth: true
+
+        Heading {
+            Layout.fillWidth: true
+            text: qsTr("Record time")
+        }
+
+        IconButton {
+            objectName: "overview.guide"
+            text: qsTr("How Quillmere works")
+            symbol: "info.circle"
+            onClicked: root.guideChosen()
+        }
+    }
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: 14
+
+        CardButton {
+            objectName: "transaction.action.add"
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            text: qsTr("Add time")
+            subtitle: qsTr("Worked extra")
+            symbol: "plus"
+            tint: Theme.accent
+            Accessible.description: qsTr("Opens the time entry form")
+            onClicked: root.addChosen()
+        }
+
+        CardButton {
+            objectName: "transaction.action.take"
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
+            text: qsTr("Take flex time")
+            subtitle: qsTr("Use time from your bank")
+            symbol: "minus"
+            tint: Theme.alert
+            Accessible.description: qsTr("Opens the time entry form")
+            onClicked: root.takeChosen()
+        }
+    }
+}
