@@ -1,5 +1,7 @@
 #include "Platform/text/LetterCase.h"
 
+#include "Platform/text/Utf8.h"
+
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
 #include <unicode/normalizer2.h>
@@ -44,7 +46,7 @@ std::string lowercasedUnicode(std::string_view text) {
 std::string lowercasedForComparison(std::string_view text) {
     const bool isAscii = std::all_of(text.begin(), text.end(),
                                      [](char c) { return static_cast<signed char>(c) >= 0; });
-    return isAscii ? lowercasedAscii(text) : lowercasedUnicode(text);
+    return isAscii ? lowercasedAscii(text) : lowercasedUnicode(repairedUtf8(text));
 }
 
 } // namespace platform
