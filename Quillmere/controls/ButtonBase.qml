@@ -1,0 +1,29 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere.controls
+import Quillmere.theme
+
+// What all buttons share: Enter besides Space, the pointer's states, the focus ring, and the look of
+// what cannot be used. `text` is the accessible name, shown or not.
+T.Button {
+    id: root
+
+    property string symbol: ""
+    property real radius: Theme.controlRadius
+
+    implicitWidth: Math.max(implicitBackgroundWidth + leftInset + rightInset,
+                            implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: Math.max(implicitBackgroundHeight + topInset + bottomInset,
+                             implicitContentHeight + topPadding + bottomPadding)
+    hoverEnabled: true
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    font: Theme.bodyMedium
+
+    Keys.onReturnPressed: root.click()
+    Keys.onEnterPressed: root.click()
+
+    FocusRing {
+        shown: root.visualFocus
+        radius: root.radius
+    }
+}
