@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <cstdint>
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -27,14 +26,17 @@ public:
     struct Options {
         std::string uri; ///< file name or `file:` URI
         const char* vfs = nullptr;
-        bool create = false;
         int busyTimeoutMilliseconds = 0;
     };
 
+    /// Opens the file and reads nothing of it yet.
     Database(const Options& options, std::shared_ptr<StoreHealth> health);
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
+
+    /// Sets durability, cache and checks; reads the file.
+    void configure();
 
     /// The statement compiled from one SQL text, kept for the next time.
     [[nodiscard]] Statement prepare(std::string_view sql);
@@ -49,11 +51,10 @@ public:
     [[nodiscard]] bool isInTransaction() const;
     /// Whether the file could only be opened for reading.
     [[nodiscard]] bool isReadOnly() const;
-    /// Whether closing the last connection moves the log into the file; so it is at first.
+    /// Whether closing the last connection moves the log into the file; at first it does not.
     void setCheckpointOnClose(bool checkpoint);
 
     [[nodiscard]] StoreHealth& health() const { return *health_; }
-    [[nodiscard]] sqlite3* handle() const { return handle_.get(); }
 
     /// Throws the `StoreError` for an SQLite result code of this connection.
     [[noreturn]] void fail(int result) const;

@@ -72,17 +72,13 @@ public:
 
     /// Reads all rows. Any thread. Throws `StoreError`.
     [[nodiscard]] static Loaded readRows(Store& store) {
-        Loaded loaded;
-        Values values;
         Snapshot snapshot(store);
-        Statement rows = snapshot.rows(RecordFields<Values>::table);
-        while (rows.step()) {
-            readValues(rows, values);
-            if (std::optional<Row> row = Row::make(rowKey(rows), values)) {
+        Loaded loaded{{}, snapshot.revision()};
+        TypedStorage<R>(snapshot.database()).scan({}, [&](RowRef ref, const Values& values) {
+            if (std::optional<Row> row = Row::make(ref, values)) {
                 loaded.rows.push_back(*row);
             }
-        }
-        loaded.revision = snapshot.revision();
+        });
         RowList<Row>::sort(loaded.rows);
         return loaded;
     }

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "Platform/store/Database.h"
 #include "Platform/store/RowKey.h"
-#include "Platform/store/Statement.h"
 
 #include <memory>
-#include <string_view>
 
 namespace platform::store {
 
-class Database;
 class Store;
 class Transaction;
 
@@ -20,12 +18,10 @@ public:
     ~Snapshot();
 
     [[nodiscard]] Revision revision() const { return revision_; }
-    /// All rows of a record type: key, revision, fields. The statement must be gone before the
-    /// snapshot.
-    [[nodiscard]] Statement rows(std::string_view table);
+    /// The connection that sees this state; for reading only.
+    [[nodiscard]] Database& database() { return *database_; }
 
 private:
-    Store& store_;
     std::unique_ptr<Database> database_;
     std::unique_ptr<Transaction> transaction_;
     Revision revision_;

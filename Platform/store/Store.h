@@ -61,13 +61,16 @@ public:
 
 private:
     friend class Context;
-    template <class, class>
-    friend class LiveQuery;
+    friend class Snapshot;
     class Impl;
 
-    Store(const Schema& schema, const StoreConfiguration& configuration);
+    explicit Store(std::unique_ptr<Impl> impl);
+    [[nodiscard]] const Schema& schema() const;
     /// A new connection for the calling thread.
     [[nodiscard]] std::unique_ptr<Database> connect() const;
+    /// Throws `damaged` when damage was found since the store was opened.
+    void checkSound() const;
+    void notifyCommitted() const;
 
     std::unique_ptr<Impl> impl_;
 };

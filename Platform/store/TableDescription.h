@@ -12,7 +12,7 @@ namespace platform::store {
 /// How a field is stored. Declared in SQL as: integer and boolean `INTEGER NOT NULL` (a boolean is
 /// 0 or 1), text `TEXT NOT NULL` (UTF-8), uuid `BLOB NOT NULL` (its 16 bytes), instant `ANY NOT
 /// NULL`, optionalInstant `ANY` (absent is NULL). An instant is a REAL, bit for bit; one that is
-/// not a number, which SQLite cannot hold, is a BLOB of its eight bytes, most significant first.
+/// not a number, which SQLite cannot hold, is an empty BLOB.
 enum class ColumnType { integer, boolean, text, uuid, instant, optionalInstant };
 
 struct Column {

@@ -25,4 +25,11 @@ private:
     Database& database_;
 };
 
+/// A commit can fail after its frames, the commit mark among them, have reached the write-ahead
+/// log: when the log cannot be synced, or the index beside it not extended. Nobody sees such
+/// frames, but recovery after a crash would take them for committed. When that may be so, this
+/// writes a small commit of its own over them, which breaks their chain of checksums. Throws
+/// `StoreError` when it cannot; it is then to be called again before anything else is written.
+void settleFailedCommit(Database& database);
+
 } // namespace platform::store

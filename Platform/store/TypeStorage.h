@@ -23,6 +23,10 @@ public:
     [[nodiscard]] const TableDescription& table() const { return table_; }
     [[nodiscard]] bool hasChanges() const;
 
+    /// Throws when the table does not have the columns.
+    void checkTable() const;
+
+    [[nodiscard]] bool owns(const RecordBase& record) const { return record.storage_ == this; }
     void remove(RecordBase& record);
     virtual void removeAll() = 0;
 
@@ -86,13 +90,16 @@ private:
     void detach(RecordBase& record);
     void insertRow(const RecordBase& record, Revision revision);
     void updateRow(const RecordBase& record, Revision revision);
+    void writeAnew(const RecordBase& record, Revision revision);
     void deleteRow(const RecordBase& record, Revision revision);
     void settleInserted(Revision revision);
     void settleChanged(Revision revision);
 
     Database& database_;
     TableDescription table_;
+    std::string name_;
     std::string columns_; ///< comma-separated names of the fields' columns
+    std::string insertSql_;
     std::unordered_map<RowKey, RecordBase*> identities_;
     std::vector<std::unique_ptr<RecordBase>> owned_;
     std::vector<RecordBase*> inserted_;

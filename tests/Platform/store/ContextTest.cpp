@@ -1,0 +1,380 @@
+#include "tests/Platform/store/StoreTest.h"
+
+#include <limits>
+#include <ostream>
+
+namespace platform::store::test {
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+/// The rules of a context, over a store in a file and one in memory.
+class ContextTest : public StoreTest, public testing::WithParamInterface<bool> {
+protected:
+    [[nodiscard]] std::unique_ptr<Context> makeContext() const {
+        return store_->makeContext(environment());
+    }
+
+    const std::shared_ptr<Store> store_ =
+        Store::open(testSchema(), {.file = file(), .inMemory = GetParam()});
+    const std::unique_ptr<Context> context_ = makeContext();
+};
+
+TEST_P(ContextTest, StoresEveryFieldExactly) {
+    const std::string text("\0\xff\xc3\xa9 ' text", 11);
+    const std::vector<Instant> instants = {
+        {1780000000.123456}, {-0.0}, {0.1 + 0.2}, {notANumber}, {-1e300}};
+    for (const Instant instant : instants) {
+        auto reminder = std::make_unique<Reminder>();
+        reminder->setMinutes(std::numeric_limits<std::int64_t>::min());
+        reminder->setDone(true);
+        reminder->setTitle(text);
+        reminder->setDue(instant);
+        reminder->setEndedAt(instant);
+        context_->insert(std::move(reminder));
+    }
+    context_->save();
+
+    const auto other = makeContext();
+    const auto stored = other->fetch<Reminder>();
+    ASSERT_EQ(stored.size(), instants.size());
+    for (std::size_t i = 0; i < instants.size(); ++i) {
+        const ReminderValues& values = stored[i]->values();
+        EXPECT_EQ(values.id, context_->fetch<Reminder>()[i]->values().id);
+        EXPECT_EQ(values.minutes, std::numeric_limits<std::int64_t>::min());
+        EXPECT_TRUE(values.isDone);
+        EXPECT_EQ(values.title, text);
+        EXPECT_TRUE(sameValue(values.due, instants[i]));
+        EXPECT_TRUE(sameValue(values.endedAt, std::optional(instants[i])));
+    }
+}
+
+TEST_P(ContextTest, ShowsPendingChangesToItsOwnFetchesOnly) {
+    Reminder& kept = addReminder(*context_, "kept", 1);
+    Reminder& gone = addReminder(*context_, "gone", 2);
+    context_->save();
+    kept.setTitle("renamed");
+    context_->remove(gone);
+    addReminder(*context_, "new", 4);
+
+    EXPECT_EQ(titles(*context_), "new renamed");
+    EXPECT_EQ(findTitle(*context_, "kept"), nullptr);
+    EXPECT_EQ(findTitle(*context_, "renamed"), &kept);
+    EXPECT_EQ(context_->find<Reminder>(gone.key()), nullptr);
+    EXPECT_EQ((context_->sum<Reminder, &ReminderValues::minutes>()), 5);
+    EXPECT_EQ(titles(*makeContext()), "gone kept");
+
+    context_->save();
+    EXPECT_EQ((context_->sum<Reminder, &ReminderValues::minutes>()), 5);
+    EXPECT_EQ(titles(*makeContext()), "new renamed");
+    EXPECT_FALSE(context_->hasChanges());
+}
+
+TEST_P(ContextTest, KeepsRecordsWithOneIdApart) {
+    const Uuid id = Uuid::random();
+    Reminder& first = addReminder(*context_, "first");
+    Reminder& second = addReminder(*context_, "second");
+    first.setId(id);
+    second.setId(id);
+    context_->save();
+    EXPECT_NE(first.key(), second.key());
+
+    const auto other = makeContext();
+    const auto both = other->fetch<Reminder>(
+        Filter<Reminder>{}.where<&ReminderValues::id>(Comparison::equal, id));
+    ASSERT_EQ(both.size(), 2U);
+    EXPECT_EQ(other->find<Reminder>(both[0]->key()), both[0]);
+    other->remove(*both[0]);
+    other->save();
+    EXPECT_EQ(titles(*makeContext()), "second");
+}
+
+TEST_P(ContextTest, RollbackRestoresEverything) {
+    Reminder& changed = addReminder(*context_, "changed", 1);
+    Reminder& removed = addReminder(*context_, "removed");
+    context_->setNote("colour", "red");
+    context_->save();
+    changed.setTitle("other");
+    changed.setEndedAt(Instant{5});
+    removed.setTitle("changed, then removed");
+    context_->remove(removed);
+    Reminder& inserted = addReminder(*context_, "inserted");
+    Reminder& brief = addReminder(*context_, "inserted, then removed");
+    context_->remove(brief);
+    context_->setNote("colour", "blue");
+    ASSERT_TRUE(context_->hasChanges());
+
+    context_->rollback();
+
+    EXPECT_FALSE(context_->hasChanges());
+    EXPECT_EQ(titles(*context_), "changed removed");
+    EXPECT_EQ(changed.values().endedAt, std::nullopt);
+    EXPECT_EQ(removed.state(), RecordState::stored);
+    EXPECT_EQ(inserted.state(), RecordState::detached);
+    EXPECT_EQ(inserted.values().title, "inserted");
+    EXPECT_EQ(brief.state(), RecordState::detached);
+    EXPECT_EQ(context_->note("colour"), "red");
+    inserted.setTitle("no longer anybody's");
+    context_->remove(inserted);
+    EXPECT_FALSE(context_->hasChanges());
+}
+
+TEST_P(ContextTest, TakesAChangeBackWhenTheStoredValueIsAssigned) {
+    Reminder& reminder = addReminder(*context_, "same", 1, {notANumber});
+    context_->save();
+    const Revision revision = context_->revision();
+    reminder.setMinutes(2);
+    EXPECT_TRUE(context_->hasChanges());
+    reminder.setMinutes(1);
+    reminder.setDue({notANumber});
+    EXPECT_FALSE(context_->hasChanges());
+    context_->save();
+    EXPECT_EQ(context_->revision(), revision);
+}
+
+TEST_P(ContextTest, KeepsAProvisionalKeyFindingItsRecord) {
+    Reminder& reminder = addReminder(*context_, "new");
+    const RowKey provisional = reminder.key();
+    EXPECT_TRUE(isProvisional(provisional));
+    EXPECT_EQ(context_->find<Reminder>(provisional), &reminder);
+    context_->save();
+    EXPECT_FALSE(isProvisional(reminder.key()));
+    EXPECT_EQ(context_->find<Reminder>(provisional), &reminder);
+    EXPECT_EQ(context_->find<Reminder>(reminder.key()), &reminder);
+}
+
+TEST_P(ContextTest, NeverReusesAKey) {
+    Reminder& last = addReminder(*context_, "last");
+    context_->save();
+    const RowKey key = last.key();
+    context_->remove(last);
+    context_->save();
+    Reminder& next = addReminder(*context_, "next");
+    context_->save();
+    EXPECT_GT(next.key(), key);
+}
+
+TEST_P(ContextTest, RefreshTakesInExactlyWhatOthersCommitted) {
+    Reminder& edited = addReminder(*context_, "edited", 1);
+    Reminder& removed = addReminder(*context_, "removed");
+    Reminder& mine = addReminder(*context_, "mine", 1);
+    Reminder& wanted = addReminder(*context_, "wanted", 1);
+    context_->save();
+    const Revision before = context_->revision();
+    const auto other = makeContext();
+    findTitle(*other, "edited")->setMinutes(2);
+    other->remove(*findTitle(*other, "removed"));
+    findTitle(*other, "mine")->setMinutes(2);
+    findTitle(*other, "mine")->setDue({9});
+    other->remove(*findTitle(*other, "wanted"));
+    addReminder(*other, "added");
+    other->save();
+    mine.setMinutes(7);
+    wanted.setMinutes(7);
+
+    context_->refresh();
+
+    EXPECT_EQ(edited.values().minutes, 2);
+    EXPECT_EQ(removed.state(), RecordState::detached);
+    EXPECT_EQ(mine.values().minutes, 7) << "an unsaved change stays";
+    EXPECT_EQ(mine.values().due, Instant{9}) << "beside it the newer value comes in";
+    EXPECT_EQ(titles(*context_), "added edited mine wanted");
+    EXPECT_EQ(context_->fetchChangedSince<Reminder>(before).size(), 4U);
+    EXPECT_EQ(context_->fetchChangedSince<Reminder>(context_->revision()).size(), 2U);
+
+    context_->save();
+    EXPECT_EQ(titles(*makeContext()), "added edited mine wanted") << "written anew";
+    other->refresh();
+    EXPECT_EQ(findTitle(*other, "mine")->values().minutes, 7);
+    EXPECT_EQ(findTitle(*other, "mine")->values().due, Instant{9});
+    EXPECT_EQ(findTitle(*other, "wanted")->values().minutes, 7);
+}
+
+TEST_P(ContextTest, RollbackAfterRefreshGivesTheNewlyStoredValues) {
+    Reminder& edited = addReminder(*context_, "edited", 1);
+    Reminder& removed = addReminder(*context_, "removed", 1);
+    context_->save();
+    const auto other = makeContext();
+    findTitle(*other, "edited")->setMinutes(2);
+    other->remove(*findTitle(*other, "removed"));
+    other->save();
+    edited.setMinutes(7);
+    removed.setMinutes(7);
+    context_->refresh();
+    context_->rollback();
+    EXPECT_EQ(edited.values().minutes, 2);
+    EXPECT_EQ(removed.state(), RecordState::detached);
+    EXPECT_EQ(titles(*context_), "edited");
+}
+
+TEST_P(ContextTest, SavesOfSeveralContextsMeetFieldByField) {
+    Reminder& reminder = addReminder(*context_, "shared", 1);
+    context_->save();
+    const auto other = makeContext();
+    Reminder& same = *findTitle(*other, "shared");
+    same.setMinutes(2);
+    reminder.setDone(true);
+    other->save();
+    context_->save();
+    other->refresh();
+    for (const Reminder* seen : {&reminder, &same, findTitle(*makeContext(), "shared")}) {
+        EXPECT_EQ(seen->values().minutes, 2);
+        EXPECT_TRUE(seen->values().isDone);
+    }
+}
+
+TEST_P(ContextTest, FetchBringsRecordsUpToDate) {
+    Reminder& reminder = addReminder(*context_, "a", 1);
+    context_->save();
+    const auto other = makeContext();
+    findTitle(*other, "a")->setMinutes(5);
+    other->save();
+    const auto found = context_->fetch<Reminder>(
+        Filter<Reminder>{}.where<&ReminderValues::minutes>(Comparison::equal, 5));
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0], &reminder);
+    EXPECT_EQ(reminder.values().minutes, 5);
+}
+
+TEST_P(ContextTest, RemovesAllOfOneType) {
+    addReminder(*context_, "stored");
+    context_->insert(std::make_unique<Tag>());
+    context_->save();
+    addReminder(*context_, "pending");
+    context_->removeAll<Reminder>();
+    addReminder(*context_, "later");
+    EXPECT_EQ(titles(*context_), "later");
+    context_->save();
+    EXPECT_EQ(titles(*makeContext()), "later");
+    EXPECT_EQ(makeContext()->fetch<Tag>().size(), 1U);
+}
+
+TEST_P(ContextTest, RefusesWhatItCannotDo) {
+    addReminder(*context_, "a", std::numeric_limits<std::int64_t>::max());
+    addReminder(*context_, "b", 1);
+    const auto sum = [&] { (void)context_->sum<Reminder, &ReminderValues::minutes>(); };
+    EXPECT_EQ(faultOf(sum), StoreFault::misuse);
+    context_->save();
+    EXPECT_EQ(faultOf(sum), StoreFault::misuse);
+    const auto other = makeContext();
+    EXPECT_EQ(faultOf([&] { other->remove(*context_->fetch<Reminder>()[0]); }), StoreFault::misuse);
+}
+
+TEST_P(ContextTest, TellsListenersOfCommitsWhileTheyAreRegistered) {
+    int commits = 0;
+    auto registration = store_->onCommit([&] { ++commits; });
+    context_->save();
+    EXPECT_EQ(commits, 0) << "nothing was pending";
+    addReminder(*context_, "a");
+    context_->save();
+    registration.reset();
+    addReminder(*context_, "b");
+    context_->save();
+    EXPECT_EQ(commits, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Stores, ContextTest, testing::Bool(),
+                         [](const auto& row) { return row.param ? "Memory" : "File"; });
+
+/// A filter must hold for the same records, whether the database decides it or memory.
+struct FilterCase {
+    const char* name;
+    Filter<Reminder> filter;
+    std::string expected;
+};
+
+Filter<Reminder> due(Comparison comparison, double value) {
+    return Filter<Reminder>{}.where<&ReminderValues::due>(comparison, Instant{value});
+}
+
+Filter<Reminder> ended(Comparison comparison, std::optional<Instant> value) {
+    return Filter<Reminder>{}.where<&ReminderValues::endedAt>(comparison, value);
+}
+
+Filter<Reminder> title(Comparison comparison, std::string value) {
+    return Filter<Reminder>{}.where<&ReminderValues::title>(comparison, std::move(value));
+}
+
+// a: due 1, ended 1; b: due 2, not ended; c: not a number in both; Z: due 2, ended 2.
+const std::vector<FilterCase> filterCases = {
+    {"EqualInstant", due(Comparison::equal, 2), "Z b"},
+    {"NotEqualInstant", due(Comparison::notEqual, 2), "a c"},
+    {"LessInstant", due(Comparison::less, 2), "a"},
+    {"GreaterInstant", due(Comparison::greater, 1), "Z b"},
+    {"AtLeastInstant", due(Comparison::greaterOrEqual, -1), "Z a b"},
+    {"EqualNotANumber", due(Comparison::equal, notANumber), ""},
+    {"NotEqualNotANumber", due(Comparison::notEqual, notANumber), "Z a b c"},
+    {"LessNotANumber", due(Comparison::less, notANumber), ""},
+    {"EqualAbsent", ended(Comparison::equal, {}), "b"},
+    {"NotEqualAbsent", ended(Comparison::notEqual, {}), "Z a c"},
+    {"LessAbsent", ended(Comparison::less, {}), ""},
+    {"AtMostAbsent", ended(Comparison::lessOrEqual, {}), "b"},
+    {"GreaterAbsent", ended(Comparison::greater, {}), "Z a c"},
+    {"AtLeastAbsent", ended(Comparison::greaterOrEqual, {}), "Z a b c"},
+    {"LessOptional", ended(Comparison::less, Instant{2}), "a b"},
+    {"GreaterOptional", ended(Comparison::greater, Instant{1}), "Z"},
+    {"NotEqualOptional", ended(Comparison::notEqual, Instant{1}), "Z b c"},
+    {"AtMostOptionalNotANumber", ended(Comparison::lessOrEqual, Instant{notANumber}), "b"},
+    {"EqualOptionalNotANumber", ended(Comparison::equal, Instant{notANumber}), ""},
+    {"TextByBytes", title(Comparison::less, "a"), "Z"},
+    {"TextWithQuote", title(Comparison::equal, "'"), ""},
+    {"BothConditions",
+     due(Comparison::equal, 2).where<&ReminderValues::title>(Comparison::greater, "a"), "b"},
+    {"AlternativesStayTogether",
+     ended(Comparison::less, Instant{2}).where<&ReminderValues::isDone>(Comparison::equal, true),
+     ""},
+};
+
+void PrintTo(const FilterCase& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class FilterTest : public StoreTest, public testing::WithParamInterface<FilterCase> {};
+
+TEST_P(FilterTest, HoldsAlikeInTheDatabaseAndInMemory) {
+    const auto context = openContext();
+    addReminder(*context, "a", 0, {1}).setEndedAt(Instant{1});
+    addReminder(*context, "b", 0, {2});
+    addReminder(*context, "c", 0, {notANumber}).setEndedAt(Instant{notANumber});
+    addReminder(*context, "Z", 0, {2}).setEndedAt(Instant{2});
+    const auto found = [&] {
+        std::string names;
+        for (const Reminder* reminder : context->fetch<Reminder>(
+                 GetParam().filter, Sort<Reminder>{}.by<&ReminderValues::title>())) {
+            names += (names.empty() ? "" : " ") + reminder->values().title;
+        }
+        return names;
+    };
+    EXPECT_EQ(found(), GetParam().expected) << "in memory";
+    context->save();
+    EXPECT_EQ(found(), GetParam().expected) << "in the database";
+}
+
+INSTANTIATE_TEST_SUITE_P(Conditions, FilterTest, testing::ValuesIn(filterCases),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(StoreTest, SortsByKeysInTurn) {
+    const auto context = openContext();
+    addReminder(*context, "late", 1, {notANumber});
+    addReminder(*context, "b", 1, {5});
+    addReminder(*context, "a", 1, {5}).setEndedAt(Instant{1});
+    addReminder(*context, "early", 2, {-5}).setEndedAt(Instant{0});
+    const auto order = [&](const Sort<Reminder>& sort) {
+        std::string names;
+        for (const Reminder* reminder : context->fetch<Reminder>({}, sort)) {
+            names += reminder->values().title + " ";
+        }
+        return names;
+    };
+    EXPECT_EQ(order(Sort<Reminder>{}.by<&ReminderValues::due>().by<&ReminderValues::title>()),
+              "early a b late ");
+    EXPECT_EQ(order(Sort<Reminder>{}
+                        .by<&ReminderValues::due>(SortOrder::descending)
+                        .by<&ReminderValues::title>(SortOrder::descending)),
+              "late b a early ");
+    EXPECT_EQ(order(Sort<Reminder>{}.by<&ReminderValues::endedAt>().by<&ReminderValues::title>()),
+              "b late early a ");
+}
+
+} // namespace
+} // namespace platform::store::test
