@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Quillmere.theme
 import Quillmere.controls
+import Quillmere.composer
 import Quillmere.dashboard
 
 // The overview.
@@ -36,6 +37,8 @@ FocusScope {
 
         RecordTimeSection {
             width: parent.width
+            onAddChosen: root.model.addTime()
+            onTakeChosen: root.model.takeFlexTime()
             onGuideChosen: guide.open()
         }
 
@@ -56,12 +59,49 @@ FocusScope {
         offer: root.model.undoOffer
     }
 
+    Connections {
+        target: root.model
+
+        function onActiveComposerChanged() {
+            if (root.model.activeComposer)
+                composer.open();
+        }
+    }
+
+    Connections {
+        target: root.model.activeComposer
+
+        function onFinished() {
+            composer.close();
+        }
+    }
+
+    Sheet {
+        id: composer
+
+        // Before the form's model goes, its view is gone.
+        onClosed: root.model.closeComposer()
+
+        Loader {
+            active: composer.visible
+            focus: true
+            sourceComponent: TransactionComposerView {
+                focus: true
+                model: root.model.activeComposer
+            }
+        }
+    }
+
     Sheet {
         id: guide
 
-        TimeBankGuideView {
+        Loader {
+            active: guide.visible
             focus: true
-            onDone: guide.close()
+            sourceComponent: TimeBankGuideView {
+                focus: true
+                onDone: guide.close()
+            }
         }
     }
 }

@@ -74,6 +74,40 @@ void DashboardViewModel::chooseTrendRange(int index) {
     }
 }
 
+void DashboardViewModel::addTime() {
+    openComposer(TransactionComposerMode::add);
+}
+
+void DashboardViewModel::takeFlexTime() {
+    openComposer(TransactionComposerMode::take);
+}
+
+void DashboardViewModel::openComposer(TransactionComposerMode mode) {
+    if (composer_) {
+        return;
+    }
+    composer_ = std::make_unique<TransactionComposerViewModel>(
+        session_, appState_, mode,
+        [this](BalanceAdjustment& transaction) { onSaved(transaction); });
+    emit activeComposerChanged();
+}
+
+// The form may be closing from within its own save.
+void DashboardViewModel::closeComposer() {
+    if (auto closed = std::exchange(composer_, nullptr)) {
+        emit activeComposerChanged();
+        closed.release()->deleteLater();
+    }
+}
+
+// The figures follow the live query, which says nothing before the history is there.
+void DashboardViewModel::onSaved(BalanceAdjustment& transaction) {
+    undoOffer_.offer(transaction);
+    if (isLoading()) {
+        updateFigures();
+    }
+}
+
 void DashboardViewModel::updateAll() {
     updateFigures();
     updateRecent();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Platform/calendar/DateText.h"
+#include "Quillmere/composer/TransactionComposerMode.h"
+#include "Quillmere/composer/TransactionComposerViewModel.h"
 #include "Quillmere/dashboard/BalanceSummary.h"
 #include "Quillmere/dashboard/RecentActivityModel.h"
 #include "Quillmere/dashboard/UndoOffer.h"
@@ -47,6 +49,9 @@ class DashboardViewModel : public QObject {
     /// The link to the screen with all changes; empty when it cannot be formed.
     Q_PROPERTY(QUrl historyURL READ historyURL CONSTANT)
     Q_PROPERTY(quillmere::UndoOffer* undoOffer READ undoOffer CONSTANT)
+    /// The form being shown, or null.
+    Q_PROPERTY(quillmere::TransactionComposerViewModel* activeComposer READ activeComposer NOTIFY
+                   activeComposerChanged)
 
 public:
     /// Day count of the chosen range in the standard preferences.
@@ -68,17 +73,27 @@ public:
     [[nodiscard]] bool hasActivity() const { return hasActivity_; }
     [[nodiscard]] static QUrl historyURL();
     [[nodiscard]] UndoOffer* undoOffer() { return &undoOffer_; }
+    [[nodiscard]] TransactionComposerViewModel* activeComposer() const { return composer_.get(); }
 
     /// Shows and remembers the range at this position of `trendRangeTitles`.
     Q_INVOKABLE void chooseTrendRange(int index);
+
+    /// Open a new form. What it saves is offered to be undone.
+    Q_INVOKABLE void addTime();
+    Q_INVOKABLE void takeFlexTime();
+    /// Called when the form is no longer shown.
+    Q_INVOKABLE void closeComposer();
 
 signals:
     void summaryChanged();
     void trendChanged();
     void trendRangeChanged();
     void hasActivityChanged();
+    void activeComposerChanged();
 
 private:
+    void openComposer(TransactionComposerMode mode);
+    void onSaved(BalanceAdjustment& transaction);
     void onSettingsChanged();
     void onTimeChanged();
     void updateAll();
@@ -95,10 +110,12 @@ private:
     [[nodiscard]] double balanceFromStore() const;
 
     StoreSession& session_;
+    AppState& appState_;
     platform::Preferences& preferences_;
     platform::DateText dates_;
     InstantTimer nextChange_;
     UndoOffer undoOffer_;
+    std::unique_ptr<TransactionComposerViewModel> composer_;
     RecentActivityModel recentItems_;
     BalanceSummary summary_;
     QList<double> trend_;
