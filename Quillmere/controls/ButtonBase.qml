@@ -19,8 +19,10 @@ T.Button {
     opacity: enabled ? 1 : Theme.disabledOpacity
     font: Theme.bodyMedium
 
-    Keys.onReturnPressed: root.click()
-    Keys.onEnterPressed: root.click()
+    // Qt 6.4 has no click() and loses what assistive technology presses.
+    Accessible.onPressAction: root.clicked()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     FocusRing {
         shown: root.visualFocus

@@ -18,7 +18,7 @@ ButtonBase {
     Accessible.role: Accessible.ButtonMenu
 
     onClicked: root.menu.popup(root, root.width - root.menu.implicitWidth, root.height + 4)
-    Keys.onDownPressed: root.click()
+    Keys.onDownPressed: root.clicked()
 
     background: Rectangle {
         radius: root.radius

@@ -25,6 +25,7 @@ T.ComboBox {
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.ComboBox
+    Accessible.onPressAction: root.popup.open()
 
     Keys.onReturnPressed: root.popup.open()
     Keys.onEnterPressed: root.popup.open()
@@ -98,6 +99,7 @@ T.ComboBox {
         text: choice.title
         highlighted: root.highlightedIndex === choice.index
         hoverEnabled: true
+        Accessible.onPressAction: choice.clicked()
 
         background: Rectangle {
             radius: Theme.popoverRadius - 5

@@ -17,6 +17,7 @@ T.MenuItem {
     rightPadding: 14
     font: Theme.body
     opacity: enabled ? 1 : Theme.disabledOpacity
+    Accessible.onPressAction: root.clicked()
 
     background: Rectangle {
         radius: Theme.popoverRadius - 5
