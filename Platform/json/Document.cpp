@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -59,7 +60,7 @@ bool hasLoneSurrogate(std::string_view text) {
     return false;
 }
 
-bool hasDuplicates(std::vector<std::string_view>& keys) {
+bool hasDuplicates(std::span<std::string_view> keys) {
     // Comparing pairs is fastest for records; sorting bounds what a hostile text can cost.
     if (keys.size() > 16) {
         std::sort(keys.begin(), keys.end());
@@ -73,25 +74,39 @@ bool hasDuplicates(std::vector<std::string_view>& keys) {
     return false;
 }
 
-/// Throws when an object in `element` repeats a key. `keys` is only scratch space.
-void checkKeys(dom::element element, std::vector<std::string_view>& keys) {
-    if (dom::object object; element.get(object) == simdjson::SUCCESS) {
-        keys.clear();
-        for (const auto& member : object) {
-            keys.push_back(member.key);
-        }
-        if (hasDuplicates(keys)) {
-            throw JsonError("a key occurs twice in one object");
-        }
-        for (const auto& member : object) {
-            checkKeys(member.value, keys);
-        }
-    } else if (dom::array array; element.get(array) == simdjson::SUCCESS) {
-        for (const auto child : array) {
-            checkKeys(child, keys);
+/// Finds objects that repeat a key. Keeps the keys of all objects it is in on one stack.
+class KeyCheck {
+public:
+    void visit(dom::element element) {
+        switch (element.type()) {
+        case dom::element_type::OBJECT:
+            visitObject(handleAt<dom::object>(positionOf(element)));
+            break;
+        case dom::element_type::ARRAY:
+            for (const auto child : handleAt<dom::array>(positionOf(element))) {
+                visit(child);
+            }
+            break;
+        default:
+            break;
         }
     }
-}
+
+private:
+    void visitObject(dom::object object) {
+        const std::size_t outer = keys_.size();
+        for (const auto& [key, value] : object) {
+            keys_.push_back(key);
+            visit(value);
+        }
+        if (hasDuplicates(std::span(keys_).subspan(outer))) {
+            throw JsonError("a key occurs twice in one object");
+        }
+        keys_.resize(outer);
+    }
+
+    std::vector<std::string_view> keys_;
+};
 
 } // namespace
 
@@ -120,8 +135,7 @@ Document parse(std::string_view text) {
     if (hasLoneSurrogate(text)) {
         throw JsonError("a surrogate is escaped without its partner");
     }
-    std::vector<std::string_view> keys;
-    checkKeys(storage->document.root(), keys);
+    KeyCheck().visit(storage->document.root());
     return Document(std::move(storage));
 }
 

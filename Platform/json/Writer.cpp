@@ -54,11 +54,11 @@ Writer::Writer(std::string& out, Layout layout, Slash slash)
 }
 
 Writer& Writer::key(std::string_view key) {
-    assert(!isEmpty_.empty() && !afterKey_);
+    assert(depth_ > 0 && !isAfterKey_);
     beforeValue();
     appendQuoted(key);
     out_ += layout_ == Layout::pretty ? ": " : ":";
-    afterKey_ = true;
+    isAfterKey_ = true;
     return *this;
 }
 
@@ -69,7 +69,7 @@ Writer& Writer::string(std::string_view text) {
 }
 
 Writer& Writer::integer(std::int64_t value) {
-    std::array<char, 20> digits{};
+    std::array<char, 20> digits;
     const auto result = std::to_chars(digits.begin(), digits.end(), value);
     return literal({digits.data(), result.ptr});
 }
@@ -79,7 +79,7 @@ Writer& Writer::number(double value) {
         throw JsonError("an infinity or NaN cannot be written");
     }
     // The longest is the smallest subnormal number in its full 17 digits.
-    std::array<char, 352> digits{};
+    std::array<char, 352> digits;
     const auto result =
         std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed);
     literal({digits.data(), result.ptr});
@@ -128,17 +128,18 @@ Writer& Writer::value(const Value& value) {
 Writer& Writer::begin(char bracket) {
     beforeValue();
     out_ += bracket;
-    isEmpty_.push_back(true);
+    ++depth_;
+    isFirst_ = true;
     return *this;
 }
 
 Writer& Writer::end(char bracket) {
-    assert(!isEmpty_.empty() && !afterKey_);
-    const bool wasEmpty = isEmpty_.back();
-    isEmpty_.pop_back();
-    if (!wasEmpty) {
+    assert(depth_ > 0 && !isAfterKey_);
+    --depth_;
+    if (!isFirst_) {
         nextLine();
     }
+    isFirst_ = false;
     out_ += bracket;
     return *this;
 }
@@ -150,24 +151,24 @@ Writer& Writer::literal(std::string_view text) {
 }
 
 void Writer::beforeValue() {
-    if (afterKey_) {
-        afterKey_ = false;
+    if (isAfterKey_) {
+        isAfterKey_ = false;
         return;
     }
-    if (isEmpty_.empty()) {
+    if (depth_ == 0) {
         return;
     }
-    if (!isEmpty_.back()) {
+    if (!isFirst_) {
         out_ += ',';
     }
-    isEmpty_.back() = false;
+    isFirst_ = false;
     nextLine();
 }
 
 void Writer::nextLine() {
     if (layout_ == Layout::pretty) {
         out_ += '\n';
-        out_.append(2 * isEmpty_.size(), ' ');
+        out_.append(2 * depth_, ' ');
     }
 }
 

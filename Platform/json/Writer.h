@@ -2,10 +2,10 @@
 
 #include "Platform/json/JsonError.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace platform::json {
 
@@ -61,9 +61,10 @@ private:
     std::string& out_;
     Layout layout_;
     Slash slash_;
-    /// For each open array or object: has it no member yet?
-    std::vector<bool> isEmpty_;
-    bool afterKey_ = false;
+    std::size_t depth_ = 0;
+    /// The innermost open array or object has no member yet.
+    bool isFirst_ = true;
+    bool isAfterKey_ = false;
 };
 
 } // namespace platform::json

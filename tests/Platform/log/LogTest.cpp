@@ -17,11 +17,13 @@ TEST(Log, HidesPrivateTextsUnlessTheyAreSwitchedOn) {
     MemoryLogSink sink;
     const Log log(sink, "dev.example", "Persistence");
     log.write(LogLevel::standard, "Public only.");
+    // NOLINTBEGIN(concurrency-mt-unsafe): one thread
     for (const char* setting : {"0", "1", "yes"}) {
         ::setenv("QUILLMERE_LOG_PRIVATE", setting, 1);
         log.write(LogLevel::error, "Store unavailable: ", PrivateText{"secret"});
     }
     ::unsetenv("QUILLMERE_LOG_PRIVATE");
+    // NOLINTEND(concurrency-mt-unsafe)
     log.write(LogLevel::fault, "Title: ", PrivateText{"secret"});
 
     using Entry = MemoryLogSink::Entry;
