@@ -23,7 +23,8 @@ function(quillmere_library target)
 endfunction()
 
 # quillmere_test(<target> SOURCES <files> [LINK <targets>] [TIMEOUT <seconds>] [LABELS <labels>])
-# One GoogleTest program and one ctest entry. Zone, locale and hash seed are pinned here.
+# One GoogleTest program and one ctest entry, labelled "unit" unless said. Zone, locale and hash seed
+# are pinned here.
 function(quillmere_test target)
   cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS" ${ARGN})
   add_executable(${target} ${ARG_SOURCES})
@@ -31,6 +32,9 @@ function(quillmere_test target)
   add_test(NAME ${target} COMMAND ${target})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
+  endif()
+  if(NOT ARG_LABELS)
+    set(ARG_LABELS unit)
   endif()
   set_tests_properties(${target} PROPERTIES
     TIMEOUT ${ARG_TIMEOUT}

@@ -1,5 +1,7 @@
 """A program running on a desktop."""
+import os
 import subprocess
+from pathlib import Path
 
 from . import children, picture
 from .accessible import Gone, program_of
@@ -75,11 +77,15 @@ class Program:
         left, top, width, height = element.extents
         self._xdotool("mousemove", left + width // 2, top + height // 2, "click", "1")
 
+    def is_active(self):
+        """Whether the window is shown and has the keyboard."""
+        return any("active" in window.states for window in self.root().children)
+
     def await_active(self):
-        """Waits until the window is shown and has the keyboard."""
-        root = self.root()
-        self.await_true(lambda: any("active" in window.states for window in root.children),
-                        "the window is active")
+        self.await_true(self.is_active, "the window is active")
+
+    def minimize(self):
+        self._xdotool("windowminimize", "--sync", self.window())
 
     def window(self):
         """The X11 identifier of the main window."""
@@ -112,6 +118,12 @@ class Program:
         self.process.kill()
         self.process.wait()
 
+    def _leave_picture(self):
+        """What a person would have seen, for whoever looks into a failure."""
+        if folder := os.environ.get("QUILLMERE_PICTURES"):
+            path = Path(folder) / f"failure-{os.getpid()}-{self.process.pid}.png"
+            picture.write_png(self.desktop.screen(), path)
+
     def _xdotool(self, *words, check=True):
         answer = subprocess.run(["xdotool", *map(str, words)], env=self.desktop.environment,
                                 stdout=subprocess.PIPE, text=True, check=check, timeout=60)
@@ -121,5 +133,6 @@ class Program:
         try:
             return eventually(check, what, **({"limit": limit} if limit else {}))
         except TookTooLong as problem:
+            self._leave_picture()
             output = self.log.read_text(errors="replace")[-3000:]
             raise TookTooLong(f"{problem}\n{self.root().describe()}\n{output}") from None

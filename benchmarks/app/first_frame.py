@@ -1,0 +1,51 @@
+#!/usr/bin/python3
+"""Measures the first frame of the program with a store of 100,000 changes beside that of an empty Qt
+Quick window, turn by turn on one virtual display: first_frame.py BUILD_FOLDER. Prints one JSON object:
+medians in milliseconds and mebibytes by name."""
+import json
+import statistics
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+
+from desktop.desktop import Desktop  # noqa: E402
+
+CHANGES = 100_000
+ROUNDS = 15
+
+
+def measure(desktop, *words):
+    """Milliseconds from start to first frame, and mebibytes resident then."""
+    environment = desktop.environment | {"QUILLMERE_BENCH_STARTED": str(time.monotonic_ns())}
+    answer = subprocess.run([str(word) for word in words], env=environment, check=True, timeout=120,
+                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+    milliseconds, kibibytes = answer.stdout.split()
+    return float(milliseconds), float(kibibytes) / 1024
+
+
+def main(build):
+    with Desktop() as desktop:
+        folder = desktop.home / "data/group.dev.vantor.quillmere"
+        folder.mkdir(mode=0o700)
+        ledger = [build / "tools/ledger/ledger", folder / "Quillmere.sqlite"]
+        subprocess.run([*ledger, "fill", str(CHANGES)], env=desktop.environment, check=True)
+        balance = subprocess.run([*ledger, "balance"], env=desktop.environment, check=True,
+                                 stdout=subprocess.PIPE, text=True).stdout.strip()
+        programs = {"empty window": [build / "benchmarks/app/empty_first_frame"],
+                    "program": [build / "benchmarks/app/quillmere_first_frame", balance]}
+        figures = {name: [] for name in programs}
+        for _ in range(ROUNDS):
+            for name, words in programs.items():
+                figures[name].append(measure(desktop, *words))
+    medians = {}
+    for name, pairs in figures.items():
+        frames, memory = zip(*pairs[1:])
+        medians[f"first frame: {name}"] = statistics.median(frames)
+        medians[f"memory at first frame: {name}"] = statistics.median(memory)
+    print(json.dumps(medians, indent=2))
+
+
+main(Path(sys.argv[1]).resolve())

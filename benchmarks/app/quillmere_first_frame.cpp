@@ -1,0 +1,37 @@
+// The program itself, until its first frame with the balance that the first argument spells out.
+
+#include "Quillmere/app/QuillmereMacApp.h"
+#include "Quillmere/dashboard/BalanceSummary.h"
+#include "benchmarks/app/FirstFrame.h"
+
+#include <QtDBus/QDBusConnection>
+#include <QtGui/QGuiApplication>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickWindow>
+#include <QtQuickControls2/QQuickStyle>
+
+#include <cstdlib>
+
+namespace {
+
+QString shownBalance(const QQuickWindow& window) {
+    const auto* card =
+        window.contentItem()->findChild<QQuickItem*>(QStringLiteral("balance.summary"));
+    return card != nullptr ? card->property("summary").value<quillmere::BalanceSummary>().text
+                           : QString();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+    const QGuiApplication application(argc, argv);
+    const QString balance = application.arguments().value(1);
+    quillmere::QuillmereMacApp app(QDBusConnection::sessionBus());
+    if (!app.show()) {
+        return EXIT_FAILURE;
+    }
+    auto* window = qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().value(0));
+    new quillmere::FirstFrame(*window, [&] { return shownBalance(*window) == balance; });
+    return QGuiApplication::exec();
+}
