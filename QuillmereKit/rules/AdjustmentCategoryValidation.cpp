@@ -1,20 +1,35 @@
 #include "QuillmereKit/rules/AdjustmentCategoryValidation.h"
 
-#include "QuillmereKit/rules/AdjustmentCategoryOption.h"
+#include "QuillmereKit/rules/BalanceAdjustmentKind.h"
+#include "QuillmereKit/rules/CustomAdjustmentCategory.h"
 
 #include <algorithm>
 
 namespace quillmere::AdjustmentCategoryValidation {
 
+namespace {
+
+AdjustmentCategoryBehavior behaviorOf(std::string_view rawValue) {
+    if (const auto kind = BalanceAdjustmentKinds::fromRawValue(rawValue)) {
+        return behavior(*kind);
+    }
+    return CustomAdjustmentCategory::fromRawValue(rawValue) ? AdjustmentCategoryBehavior::debit
+                                                            : AdjustmentCategoryBehavior::manual;
+}
+
+} // namespace
+
 std::string normalizedRawValue(std::string_view rawValue) {
-    const auto option = AdjustmentCategoryOption::resolve(rawValue);
-    return option ? option->rawValue
+    if (BalanceAdjustmentKinds::fromRawValue(rawValue)) {
+        return std::string(rawValue);
+    }
+    const auto custom = CustomAdjustmentCategory::fromRawValue(rawValue);
+    return custom ? custom->rawValue()
                   : std::string(quillmere::rawValue(BalanceAdjustmentKind::manual));
 }
 
 std::int64_t normalizedMinutes(std::int64_t minutes, std::string_view rawValue) {
-    const auto option = AdjustmentCategoryOption::resolve(rawValue);
-    switch (option ? option->behavior : AdjustmentCategoryBehavior::manual) {
+    switch (behaviorOf(rawValue)) {
     case AdjustmentCategoryBehavior::credit:
         return std::clamp<std::int64_t>(minutes, 0, maximumSignedCategoryMinutes);
     case AdjustmentCategoryBehavior::debit:
