@@ -43,7 +43,7 @@ template <typename StartOfDay>
 void groupByCall(benchmark::State& state, StartOfDay startOfDay) {
     const auto& list = instants();
     std::size_t days = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         std::unordered_map<double, double> sums;
         for (const auto instant : list)
             sums[startOfDay(instant)] += 15;
@@ -57,7 +57,7 @@ void groupThroughDayTable(benchmark::State& state) {
     const auto& list = instants();
     const auto calendar = berlin();
     std::size_t days = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const platform::DayTable table(calendar, firstInstant, lastInstant);
         std::vector<double> sums(table.size());
         for (const auto instant : list)

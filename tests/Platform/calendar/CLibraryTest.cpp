@@ -42,10 +42,13 @@ std::set<std::time_t> interestingTimes() {
     std::set<std::time_t> times;
     const auto first = static_cast<std::time_t>(start1970.secondsSince1970);
     const auto last = static_cast<std::time_t>(start2100.secondsSince1970);
-    for (auto noon = first + 43200; noon < last; noon += 86400)
-        if (CLibraryZone::at(noon).tm_gmtoff != CLibraryZone::at(noon - 86400).tm_gmtoff)
-            for (int quarters = -8; quarters <= 6; ++quarters)
-                times.insert(noon + quarters * 21600);
+    auto offset = CLibraryZone::at(first).tm_gmtoff;
+    for (auto noon = first + 43200; noon < last; noon += 86400) {
+        const auto today = CLibraryZone::at(noon).tm_gmtoff;
+        for (std::time_t quarters = -8; today != offset && quarters <= 6; ++quarters)
+            times.insert(noon + quarters * 21600);
+        offset = today;
+    }
     std::mt19937_64 random(1);
     std::uniform_int_distribution<std::time_t> anyTime(first, last - 1);
     for (int i = 0; i < 300; ++i)
@@ -71,7 +74,7 @@ TEST_P(CLibrary, agreesOnTheDateAndTheFirstInstantOfEveryDay) {
         ASSERT_EQ(calendar.startOfDay(date), (Instant{static_cast<double>(start)}));
         if (!starts.insert(start).second)
             continue;
-        for (int before = 30; before <= 7500; before += 30)
+        for (int before = 60; before <= 7500; before += 60)
             ASSERT_NE(CLibraryZone::date(start - before), date) << before << " s before " << start;
     }
 }

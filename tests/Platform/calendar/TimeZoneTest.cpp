@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 constexpr Instant summer{1783598400}; // 2026-07-09 12:00 UTC
 
 class SystemTimeZone : public testing::Test {
-protected:
+public:
     SystemTimeZone() {
         std::string pattern = fs::temp_directory_path() / "zones-XXXXXX";
         folder_ = mkdtemp(pattern.data());
