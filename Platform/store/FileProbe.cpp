@@ -135,11 +135,12 @@ FileProbe FileProbe::read(const std::filesystem::path& file, const char* vfsName
     if (std::memcmp(header.data(), magic.data(), magic.size()) != 0) {
         throw StoreError(StoreFault::damaged, "the file is not a database");
     }
+    const std::int64_t logSize = sizeOf(file, "-wal");
     if (sizeOf(file, "-journal") == 0) {
-        checkLength(header, size, sizeOf(file, "-wal"));
+        checkLength(header, size, logSize);
     }
     return {false, static_cast<std::int32_t>(number(header, applicationIdAt, 4)),
-            static_cast<int>(number(header, userVersionAt, 4))};
+            static_cast<int>(number(header, userVersionAt, 4)), logSize > 0};
 }
 
 } // namespace platform::store

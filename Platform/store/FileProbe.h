@@ -12,6 +12,7 @@ struct FileProbe {
     bool isNew = true; ///< missing or empty
     std::int32_t applicationId = 0;
     int schemaVersion = 0; ///< as of the latest checkpoint
+    bool hasLog = false;   ///< saves may stand in the log that are not in the file yet
 
     /// Throws `damaged` when the file is not an SQLite database or shorter than it says,
     /// `cannotOpen` or `io` when it cannot be read.

@@ -45,19 +45,32 @@ StoreFault faultOf(int result, int error) {
     case SQLITE_CONSTRAINT:
         return StoreFault::misuse;
     default:
-        return faultOfSystemError(error).value_or(StoreFault::io);
+        // The index beside the log grows by writing to it, so that there is space behind its pages.
+        return result == SQLITE_IOERR_SHMSIZE ? StoreFault::diskFull
+                                              : faultOfSystemError(error).value_or(StoreFault::io);
     }
 }
 
-bool comesFromSystem(int result) {
+/// The system's error behind a result code, or 0. A failed commit leaves it with the log alone.
+int systemErrorOf(int result, sqlite3* handle) {
     const int primary = result & 0xff;
-    return primary == SQLITE_IOERR || primary == SQLITE_CANTOPEN;
+    if (primary != SQLITE_IOERR && primary != SQLITE_CANTOPEN) {
+        return 0;
+    }
+    int error = sqlite3_system_errno(handle);
+    sqlite3_file* log = nullptr;
+    if (error == 0 &&
+        sqlite3_file_control(handle, nullptr, SQLITE_FCNTL_JOURNAL_POINTER, &log) == SQLITE_OK &&
+        log != nullptr && log->pMethods != nullptr) {
+        log->pMethods->xFileControl(log, SQLITE_FCNTL_LAST_ERRNO, &error);
+    }
+    return error;
 }
 
 } // namespace
 
 StoreError sqliteError(int result, sqlite3* handle) {
-    const int error = comesFromSystem(result) ? sqlite3_system_errno(handle) : 0;
+    const int error = systemErrorOf(result, handle);
     std::string text = sqlite3_errmsg(handle);
     text += " (SQLite " + std::to_string(result) + ")";
     if (error != 0) {

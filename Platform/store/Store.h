@@ -17,7 +17,7 @@ class Database;
 struct StoreConfiguration {
     /// The store's file. Its folder is created (0700) when missing; the file is made 0600. Ignored
     /// for a store in memory.
-    std::filesystem::path file;
+    std::filesystem::path file = {};
     /// Kept in memory only; gone with the last owner of the store.
     bool inMemory = false;
     /// SQLite VFS to use; null is the system's. Tests inject faults here.

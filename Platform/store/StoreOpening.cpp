@@ -91,12 +91,15 @@ std::unique_ptr<Database> openStoreFile(const Schema& schema,
                                         const StoreConfiguration& configuration,
                                         std::shared_ptr<StoreHealth> health) {
     const std::filesystem::path& file = configuration.file;
-    checkProbe(FileProbe::read(file, configuration.vfs), schema);
+    const FileProbe probe = FileProbe::read(file, configuration.vfs);
+    checkProbe(probe, schema);
     createFolder(file.parent_path());
     createFile(file);
     auto database = std::make_unique<Database>(
         Database::Options{file, configuration.vfs, configuration.busyTimeoutMilliseconds},
         std::move(health));
+    // Should the file be refused yet, a log stays as it was found, and none is left where none was.
+    database->setCheckpointOnClose(!probe.hasLog);
     if (database->isReadOnly()) {
         throw StoreError(StoreFault::readOnly, file.string() + " may not be written");
     }
