@@ -26,6 +26,7 @@ DashboardViewModel::DashboardViewModel(StoreSession& session, AppState& appState
                                        std::unique_ptr<Countdown> undoCountdown, QObject* parent)
     : QObject(parent),
       session_(session),
+      appState_(appState),
       preferences_(preferences),
       dates_(session.time().current()),
       nextChange_(session.time().clock()),

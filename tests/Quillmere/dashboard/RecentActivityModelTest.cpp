@@ -25,8 +25,10 @@ protected:
     void show(const std::vector<std::string>& titles) {
         std::vector<RecentActivityModel::Item> items;
         for (const std::string& title : titles) {
-            items.push_back({&records_[static_cast<std::size_t>(title.front() - 'a')],
-                             {.title = QString::fromStdString(title)}});
+            LedgerTransaction transaction;
+            transaction.title = QString::fromStdString(title);
+            items.push_back(
+                {&records_[static_cast<std::size_t>(title.front() - 'a')], transaction});
         }
         model_.setItems(std::move(items));
     }
