@@ -34,6 +34,10 @@ AppModelContainer::Result AppModelContainer::synchronised() {
     }
 }
 
+void AppModelContainer::logUnreadable(std::string_view reason) const {
+    log_.write(LogLevel::error, "The store could not be read: ", PrivateText{reason});
+}
+
 AppModelContainer::Result AppModelContainer::openSynchronised() {
     if (!opener_.hasRequiredCloudKitEntitlements()) {
         throw AppModelContainerError::cloudKitEntitlementsUnavailable();

@@ -6,6 +6,7 @@
 #include "QuillmereKit/persistence/PersistenceMode.h"
 
 #include <memory>
+#include <string_view>
 
 namespace quillmere {
 
@@ -31,6 +32,9 @@ public:
 
     /// On disk on this device, then in memory, then nothing.
     [[nodiscard]] Result localFallback();
+
+    /// For a store that was opened and then could not be read.
+    void logUnreadable(std::string_view reason) const;
 
 private:
     [[nodiscard]] Result openSynchronised();

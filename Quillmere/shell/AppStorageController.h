@@ -59,6 +59,7 @@ signals:
 
 private:
     void adopt(AppModelContainer::Result result);
+    void openSession();
     void letGo();
     void finishRetry(const std::function<void(bool)>& done);
     void setRetrying(bool retrying);

@@ -1,7 +1,5 @@
 #include "Quillmere/shell/MacRootViewModel.h"
 
-#include "Quillmere/shell/RouteSelection.h"
-
 #include <utility>
 
 namespace quillmere {
@@ -9,22 +7,11 @@ namespace quillmere {
 MacRootViewModel::MacRootViewModel(RouteSelection& selection, std::map<AppRoute, Screen> screens,
                                    QObject* parent)
     : QObject(parent), selection_(selection), screens_(std::move(screens)) {
-    for (const AppRoute route : AppRoutes::all) {
-        routes_.append(new RouteItem(route, selection, this));
-    }
     connect(&selection, &RouteSelection::selectedChanged, this,
             &MacRootViewModel::onSelectedChanged);
 }
 
 MacRootViewModel::~MacRootViewModel() = default;
-
-QQmlListProperty<RouteItem> MacRootViewModel::routes() {
-    return {this, &routes_};
-}
-
-QString MacRootViewModel::title() const {
-    return routes_.at(static_cast<qsizetype>(selection_.selected()))->title();
-}
 
 QUrl MacRootViewModel::screen() const {
     return screens_.at(selection_.selected()).view;

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "Quillmere/shell/RouteItem.h"
+#include "Quillmere/shell/RouteSelection.h"
 #include "Quillmere/shell/Screen.h"
 #include "QuillmereKit/navigation/AppRoute.h"
 
-#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QUrl>
-#include <QtQml/QQmlListProperty>
 #include <QtQml/qqmlregistration.h>
 
 #include <map>
@@ -15,9 +13,7 @@
 
 namespace quillmere {
 
-class RouteSelection;
-
-/// The main window's frame: the four routes and the screen of the selected one. Belongs to a store
+/// The main window's frame: the routes and the screen of the selected one. Belongs to a store
 /// session like the screens it makes.
 ///
 /// A screen's view model is made when its route is shown and given up when another one is: the old
@@ -26,8 +22,7 @@ class MacRootViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("owned by the application")
-    Q_PROPERTY(QQmlListProperty<quillmere::RouteItem> routes READ routes CONSTANT)
-    Q_PROPERTY(QString title READ title NOTIFY screenChanged)
+    Q_PROPERTY(quillmere::RouteSelection* selection READ selection CONSTANT)
     Q_PROPERTY(QUrl screen READ screen NOTIFY screenChanged)
     Q_PROPERTY(QObject* screenModel READ screenModel NOTIFY screenChanged)
 
@@ -37,8 +32,7 @@ public:
                      QObject* parent = nullptr);
     ~MacRootViewModel() override;
 
-    [[nodiscard]] QQmlListProperty<RouteItem> routes();
-    [[nodiscard]] QString title() const;
+    [[nodiscard]] RouteSelection* selection() const { return &selection_; }
     [[nodiscard]] QUrl screen() const;
     /// Made on the first call for a route.
     [[nodiscard]] QObject* screenModel();
@@ -51,7 +45,6 @@ private:
 
     RouteSelection& selection_;
     std::map<AppRoute, Screen> screens_;
-    QList<RouteItem*> routes_;
     std::unique_ptr<QObject> screenModel_;
 };
 

@@ -12,8 +12,8 @@ QString text(std::string_view utf8) {
 
 } // namespace
 
-RouteItem::RouteItem(AppRoute route, RouteSelection& selection, QObject* parent)
-    : QObject(parent), route_(route), selection_(selection) {
+RouteItem::RouteItem(AppRoute route, RouteSelection& selection)
+    : QObject(&selection), route_(route), selection_(selection) {
     connect(&selection, &RouteSelection::selectedChanged, this, &RouteItem::selectedChanged);
 }
 

@@ -15,7 +15,7 @@ class RouteSelection;
 class RouteItem : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("listed by RouteList")
+    QML_UNCREATABLE("listed by RouteSelection")
     Q_PROPERTY(QString rawValue READ rawValue CONSTANT)
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString systemImage READ systemImage CONSTANT)
@@ -26,7 +26,8 @@ class RouteItem : public QObject {
     Q_PROPERTY(bool selected READ selected NOTIFY selectedChanged)
 
 public:
-    RouteItem(AppRoute route, RouteSelection& selection, QObject* parent);
+    /// A child of the selection it is listed in.
+    RouteItem(AppRoute route, RouteSelection& selection);
 
     [[nodiscard]] QString rawValue() const;
     [[nodiscard]] QString title() const;

@@ -14,10 +14,18 @@ AppRoute storedRoute(const platform::Preferences& preferences) {
 } // namespace
 
 RouteSelection::RouteSelection(platform::Preferences& preferences, QObject* parent)
-    : QObject(parent), preferences_(preferences), selected_(storedRoute(preferences)) {}
+    : QObject(parent), preferences_(preferences), selected_(storedRoute(preferences)) {
+    for (const AppRoute route : AppRoutes::all) {
+        routes_.append(new RouteItem(route, *this));
+    }
+}
 
-AppRoute RouteSelection::selected() const {
-    return selected_;
+RouteItem* RouteSelection::selectedItem() const {
+    return routes_.at(static_cast<qsizetype>(selected_));
+}
+
+QQmlListProperty<RouteItem> RouteSelection::routes() {
+    return {this, &routes_};
 }
 
 void RouteSelection::select(AppRoute route) {

@@ -8,6 +8,7 @@
 #include "QuillmereKit/records/TimeBankSettings.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 #include <memory>
 #include <vector>
@@ -21,7 +22,8 @@ class TimeFollower;
 /// Main thread.
 ///
 /// The settings query is loaded when the session starts. The history is read on a worker; until it
-/// has arrived the adjustments query is loading.
+/// has arrived the adjustments query is loading. What other contexts and other programs commit is
+/// taken in within a second.
 ///
 /// View models are constructed with a reference to the session and never outlive it: the application
 /// makes them when a session starts, and when a session ends the QML objects go first, then the view
@@ -54,9 +56,21 @@ signals:
     /// The adjustments query published; `steps` tells what moved. Empty steps after loading mean the
     /// whole list is new.
     void adjustmentsChanged(const std::vector<platform::store::ListStep>& steps);
+    /// The store could not be read or is not whole; for the log. Reading the history is tried again
+    /// by itself.
+    void readingFailed(const QString& reason);
 
 private:
     class Impl;
+
+    void listen();
+    void watchOthers();
+    void refresh();
+    void readHistory();
+    void readAndVerify(); ///< on the worker
+    void adoptHistory(AdjustmentsQuery::Loaded& rows);
+    void onHistoryFailed(const QString& reason);
+
     std::unique_ptr<Impl> impl_;
 };
 

@@ -23,8 +23,8 @@ Instant nextStartOfDay(const Calendar& calendar, Instant today) {
 TimeFollower::TimeFollower(const platform::Clock& clock, QObject* parent)
     : QObject(parent), clock_(clock),
       calendar_(platform::TimeZone::system(), platform::Region::system()),
-      today_(calendar_.startOfDay(clock.now())), lastNow_(clock.now()),
-      lastSteady_(std::chrono::steady_clock::now()), midnight_(clock) {
+      today_(calendar_.startOfDay(clock.now())), lastNow_(clock.now()), midnight_(clock) {
+    sinceLast_.start();
     connect(&midnight_, &InstantTimer::fired, this, &TimeFollower::check);
     connect(&midnight_, &InstantTimer::clockSet, this, &TimeFollower::check);
     // The link is replaced in its folder; the file itself is watched for being written in place.
@@ -66,14 +66,13 @@ bool TimeFollower::takeDay() {
     return moved;
 }
 
-// The steady clock stands still while the machine sleeps, so a suspend shows as a moved clock.
+// The timer's clock stands still while the machine sleeps, so a suspend shows as a moved clock.
 bool TimeFollower::takeClock() {
     const Instant now = clock_.now();
-    const auto steady = std::chrono::steady_clock::now();
-    const double passed = std::chrono::duration<double>(steady - lastSteady_).count();
+    const double passed = static_cast<double>(sinceLast_.nsecsElapsed()) * 1e-9;
     const bool moved = std::abs((now - lastNow_) - passed) > clockToleranceSeconds;
     lastNow_ = now;
-    lastSteady_ = steady;
+    sinceLast_.start();
     return moved;
 }
 

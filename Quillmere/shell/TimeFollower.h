@@ -4,10 +4,10 @@
 #include "Platform/calendar/Calendar.h"
 #include "Quillmere/shell/InstantTimer.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFileSystemWatcher>
 #include <QtCore/QObject>
 
-#include <chrono>
 #include <mutex>
 
 namespace quillmere {
@@ -46,7 +46,7 @@ private:
     platform::Calendar calendar_;
     platform::Instant today_;
     platform::Instant lastNow_;
-    std::chrono::steady_clock::time_point lastSteady_;
+    QElapsedTimer sinceLast_;
     InstantTimer midnight_;
     QFileSystemWatcher zoneWatcher_;
 };

@@ -1,0 +1,65 @@
+#include "Quillmere/app/InstanceService.h"
+
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusReply>
+
+#include <utility>
+
+namespace quillmere {
+
+namespace {
+
+const QString service = QStringLiteral("dev.vantor.quillmere");
+const QString path = QStringLiteral("/dev/vantor/quillmere");
+const QString interface = QStringLiteral("org.freedesktop.Application");
+
+} // namespace
+
+InstanceService::InstanceService(QDBusConnection bus, QObject* parent)
+    : QObject(parent), bus_(std::move(bus)) {}
+
+InstanceService::Claim InstanceService::claim() {
+    if (!bus_.isConnected()) {
+        return Claim::alone;
+    }
+    // The object first: a call may follow the name at once.
+    bus_.registerObject(path, this, QDBusConnection::ExportScriptableSlots);
+    const auto reply =
+        bus_.interface()->registerService(service, QDBusConnectionInterface::DontQueueService,
+                                          QDBusConnectionInterface::DontAllowReplacement);
+    if (!reply.isValid()) {
+        return Claim::alone;
+    }
+    return reply.value() == QDBusConnectionInterface::ServiceRegistered ? Claim::first
+                                                                        : Claim::second;
+}
+
+bool InstanceService::handOver(const QList<QUrl>& urls, const StartRequest& request) {
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        service, path, interface, urls.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
+    if (!urls.isEmpty()) {
+        message << QUrl::toStringList(urls);
+    }
+    message << request.platformData;
+    return bus_.call(message).type() == QDBusMessage::ReplyMessage;
+}
+
+void InstanceService::Activate(const QVariantMap& platformData) {
+    emit activated(activationToken(platformData));
+}
+
+void InstanceService::Open(const QStringList& uris, const QVariantMap& platformData) {
+    for (const QString& uri : uris) {
+        emit opened(QUrl(uri));
+    }
+    emit activated(activationToken(platformData));
+}
+
+// The program publishes no actions of its own; asking for one brings it forward.
+void InstanceService::ActivateAction(const QString& /*name*/, const QVariantList& /*parameter*/,
+                                     const QVariantMap& platformData) {
+    emit activated(activationToken(platformData));
+}
+
+} // namespace quillmere

@@ -1,0 +1,36 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere.app
+import Quillmere.onboarding
+import Quillmere.shell
+import Quillmere.theme
+
+// The main window's content on an open store.
+AppRootContainer {
+    id: root
+
+    required property MainSceneModel scene
+    required property ApplicationCommands commands
+
+    OnboardingGate {
+        anchors.fill: parent
+        focus: true
+        model: root.scene.gate
+        content: Component {
+            MacRootView {
+                model: root.scene.root
+                commands: root.commands
+            }
+        }
+    }
+
+    // The frame has a place for it; before there is a frame it stands alone.
+    ApplicationMenuButton {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: Theme.spaceS
+        visible: root.scene.gate.content !== OnboardingGateViewModel.Screens
+        commands: root.commands
+    }
+}

@@ -1,0 +1,42 @@
+#include "Quillmere/app/MainSceneModel.h"
+
+#include "Quillmere/dashboard/ContinuousCountdown.h"
+#include "Quillmere/dashboard/DashboardViewModel.h"
+#include "Quillmere/shell/StoreSession.h"
+
+#include <map>
+#include <memory>
+
+namespace quillmere {
+
+namespace {
+
+Screen blankScreen(const char* view) {
+    return {QUrl(QString::fromUtf8(view)), [] { return std::make_unique<QObject>(); }};
+}
+
+std::map<AppRoute, Screen> screensOf(StoreSession& session,
+                                     const MainSceneModel::Application& application) {
+    const auto makeDashboard = [&session, application] {
+        return std::make_unique<DashboardViewModel>(session, application.appState,
+                                                    application.preferences,
+                                                    std::make_unique<ContinuousCountdown>());
+    };
+    return {
+        {AppRoute::overview,
+         {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/dashboard/DashboardView.qml")), makeDashboard}},
+        {AppRoute::history, blankScreen("qrc:/qt/qml/Quillmere/history/HistoryView.qml")},
+        {AppRoute::reports, blankScreen("qrc:/qt/qml/Quillmere/reports/ReportsView.qml")},
+        {AppRoute::settings, blankScreen("qrc:/qt/qml/Quillmere/settings/SettingsView.qml")},
+    };
+}
+
+} // namespace
+
+MainSceneModel::MainSceneModel(StoreSession& session, const Application& application,
+                               QObject* parent)
+    : QObject(parent),
+      gate_(session, application.appState, application.preferences, application.prototype),
+      root_(application.routes, screensOf(session, application)) {}
+
+} // namespace quillmere

@@ -1,0 +1,97 @@
+#include "Quillmere/app/QuillmereMacApp.h"
+
+#include <QtCore/QSocketNotifier>
+#include <QtCore/QTimer>
+#include <QtGui/QDesktopServices>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QIcon>
+#include <QtQuick/QQuickWindow>
+
+namespace quillmere {
+
+namespace {
+
+const QString windowIcon = QStringLiteral(":/qt/qml/Quillmere/app/icon.svg");
+const QString deepLinkScheme = QStringLiteral("quillmere");
+
+StoreLocations locationsIn(const platform::UserFolders& folders) {
+    return {folders.data() / "dev.vantor.quillmere", folders.data() / "group.dev.vantor.quillmere"};
+}
+
+} // namespace
+
+QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
+    : QObject(parent), folders_(platform::UserFolders::ofEnvironment()),
+      preferences_(folders_.configuration() / "dev.vantor.quillmere"),
+      prototype_(folders_.configuration() / "dev.vantor.Quillmere"),
+      entitlements_(platform::FileEntitlements::ofRunningProgram()), desktop_(bus),
+      appearance_(preferences_, desktop_), time_(clock_),
+      opener_(entitlements_, locationsIn(folders_)), container_(opener_, log_), appState_(log_),
+      storage_(container_, container_.make(), time_), routes_(preferences_),
+      // There is no tray item yet to come back from.
+      delegate_(preferences_, [] { return false; }),
+      mainWindowModel_(storage_, appearance_, {appState_, routes_, preferences_, prototype_}) {
+    QDesktopServices::setUrlHandler(deepLinkScheme, this, "open");
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    connect(qGuiApp, &QGuiApplication::lastWindowClosed, this,
+            &QuillmereMacApp::onLastWindowClosed);
+    followPreferences();
+}
+
+QuillmereMacApp::~QuillmereMacApp() {
+    QDesktopServices::unsetUrlHandler(deepLinkScheme);
+}
+
+bool QuillmereMacApp::show() {
+    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine_.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&mainWindowModel_)}});
+    desktop_.waitForFirstAnswer();
+    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/app/MainWindow.qml")));
+    if (mainWindow() == nullptr) {
+        return false;
+    }
+    // Drawn after the first frame; only window managers that know no desktop files ask for it.
+    QTimer::singleShot(0, this, [this] { mainWindow()->setIcon(QIcon(windowIcon)); });
+    return true;
+}
+
+void QuillmereMacApp::open(const QUrl& url) {
+    routes_.open(url);
+}
+
+void QuillmereMacApp::raise(const QString& token) {
+    QQuickWindow* window = mainWindow();
+    if (window == nullptr) {
+        return;
+    }
+    if (!token.isEmpty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // where Qt's Wayland platform looks for it
+    }
+    window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->requestActivate();
+}
+
+void QuillmereMacApp::onLastWindowClosed() {
+    if (delegate_.applicationShouldTerminateAfterLastWindowClosed()) {
+        QGuiApplication::quit();
+    }
+}
+
+void QuillmereMacApp::followPreferences() {
+    const int fd = preferences_.watchFd();
+    if (fd < 0) {
+        return;
+    }
+    preferences_.onChange([this] { emit appearance_.changed(); });
+    auto* notifier = new QSocketNotifier(fd, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this] { preferences_.processChanges(); });
+}
+
+QQuickWindow* QuillmereMacApp::mainWindow() const {
+    const QObjectList roots = engine_.rootObjects();
+    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(roots.first());
+}
+
+} // namespace quillmere

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "Platform/base/Clock.h"
+#include "Platform/entitlements/Entitlements.h"
+#include "Platform/files/UserFolders.h"
+#include "Platform/log/Log.h"
+#include "Platform/preferences/FilePreferences.h"
+#include "Quillmere/app/MainWindowModel.h"
+#include "Quillmere/shell/AppModelContainer.h"
+#include "Quillmere/shell/BuildStoreOpener.h"
+#include "Quillmere/shell/PortalDesktopSettings.h"
+#include "Quillmere/shell/QuillmereMacAppDelegate.h"
+#include "Quillmere/shell/TimeFollower.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QUrl>
+#include <QtDBus/QDBusConnection>
+#include <QtQml/QQmlApplicationEngine>
+
+class QQuickWindow;
+
+namespace quillmere {
+
+/// The application's entry, where everything is made and put together. Opens the store when it is
+/// constructed; `show` brings up the main window. One per process, main thread.
+class QuillmereMacApp : public QObject {
+    Q_OBJECT
+
+public:
+    explicit QuillmereMacApp(const QDBusConnection& bus, QObject* parent = nullptr);
+    ~QuillmereMacApp() override;
+
+    /// Shows the main window. False when its QML cannot be loaded.
+    [[nodiscard]] bool show();
+
+public slots:
+    /// Takes a deep link.
+    void open(const QUrl& url);
+    /// Brings the main window to the front. `token` is the desktop's permission to do so, or empty.
+    void raise(const QString& token);
+
+private:
+    void onLastWindowClosed();
+    void followPreferences();
+    [[nodiscard]] QQuickWindow* mainWindow() const;
+
+    platform::SystemLogSink log_;
+    platform::SystemClock clock_;
+    platform::UserFolders folders_;
+    platform::FilePreferences preferences_;
+    platform::FilePreferences prototype_;
+    platform::FileEntitlements entitlements_;
+    PortalDesktopSettings desktop_;
+    AppearanceModel appearance_;
+    TimeFollower time_;
+    BuildStoreOpener opener_;
+    AppModelContainer container_;
+    AppState appState_;
+    AppStorageController storage_;
+    RouteSelection routes_;
+    QuillmereMacAppDelegate delegate_;
+    MainWindowModel mainWindowModel_;
+    QQmlApplicationEngine engine_;
+};
+
+} // namespace quillmere

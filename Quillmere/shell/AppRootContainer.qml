@@ -1,0 +1,37 @@
+import QtQuick
+import Quillmere.shell
+
+// What surrounds the content of every window on an open store: the status banner above it, and the
+// alert over it.
+FocusScope {
+    id: root
+
+    required property AppState appState
+    required property AppStorageController storage
+    default property alias content: slot.data
+
+    Loader {
+        id: banner
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        active: root.storage.mode !== PersistenceMode.ICloud
+        sourceComponent: PersistenceStatusBanner {
+            mode: root.storage.mode
+        }
+    }
+
+    FocusScope {
+        id: slot
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: banner.bottom
+        anchors.bottom: parent.bottom
+        focus: true
+    }
+
+    IssueAlert {
+        appState: root.appState
+    }
+}
