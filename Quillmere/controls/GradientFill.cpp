@@ -1,5 +1,6 @@
 #include "Quillmere/controls/GradientFill.h"
 
+#include "Quillmere/controls/Dither.h"
 #include "Quillmere/controls/RoundedPath.h"
 
 #include <QtGui/QPainter>
@@ -11,13 +12,24 @@ GradientFill::GradientFill(QQuickItem* parent) : QQuickPaintedItem(parent) {
 }
 
 void GradientFill::paint(QPainter* painter) {
-    QLinearGradient gradient(0, 0, width(), height());
+    const qreal scale = painter->device()->devicePixelRatio();
+    QImage image((size() * scale).toSize(), QImage::Format_RGBA64_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter deep(&image);
+    deep.setRenderHint(QPainter::Antialiasing);
+    deep.scale(scale, scale);
+    deep.fillPath(roundedPath(boundingRect(), Corner::fitting(radius_, size())), gradient());
+    deep.end();
+    painter->drawImage(boundingRect(), dithered(image));
+}
+
+QLinearGradient GradientFill::gradient() const {
+    QLinearGradient result(0, 0, width(), height());
     for (qsizetype i = 0; i < colors_.size(); ++i) {
         const double last = static_cast<double>(std::max<qsizetype>(1, colors_.size() - 1));
-        gradient.setColorAt(static_cast<double>(i) / last, colors_[i]);
+        result.setColorAt(static_cast<double>(i) / last, colors_[i]);
     }
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->fillPath(roundedPath(boundingRect(), Corner::fitting(radius_, size())), gradient);
+    return result;
 }
 
 } // namespace quillmere

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtGui/QBrush>
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickPaintedItem>
@@ -23,6 +24,8 @@ signals:
     void lookChanged();
 
 private:
+    [[nodiscard]] QLinearGradient gradient() const;
+
     QList<QColor> colors_;
     qreal radius_ = 0;
 };

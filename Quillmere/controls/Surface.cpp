@@ -1,7 +1,7 @@
 #include "Quillmere/controls/Surface.h"
 
 #include <QtQuick/QQuickWindow>
-#include <QtQuick/QSGNinePatchNode>
+#include <QtQuick/QSGImageNode>
 
 #include <memory>
 
@@ -9,45 +9,51 @@ namespace quillmere {
 
 Surface::Surface(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemHasContents);
-    connect(this, &Surface::lookChanged, this, &QQuickItem::update);
-}
-
-SurfaceLook Surface::look() const {
-    return {color_,       borderColor_, borderWidth_, Corner::fitting(radius_, size()),
-            shadowColor_, shadowBlur_,  shadowOffset_};
+    connect(this, &Surface::lookChanged, this, [this] { redraw(); });
 }
 
 QSGNode* Surface::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-    std::unique_ptr<QSGNinePatchNode> node(static_cast<QSGNinePatchNode*>(old));
+    std::unique_ptr<QSGImageNode> node(static_cast<QSGImageNode*>(old));
     if (width() <= 0 || height() <= 0) {
         return nullptr;
     }
-    const bool fresh = !node;
-    if (fresh) {
-        node.reset(window()->createNinePatchNode());
+    if (node && !stale_) {
+        return node.release();
     }
-    const SurfaceLook wanted = look();
+    if (!node) {
+        node.reset(window()->createImageNode());
+        node->setOwnsTexture(true);
+        node->setFiltering(QSGTexture::Linear);
+    }
+    const SurfaceLook look{
+        color_,       borderColor_, borderWidth_, Corner::fitting(radius_, size()),
+        shadowColor_, shadowBlur_,  shadowOffset_};
     const qreal scale = window()->effectiveDevicePixelRatio();
-    if (fresh || drawnScale_ != scale || !(drawnLook_ == wanted)) {
-        node->setTexture(window()->createTextureFromImage(surfaceTile(wanted, scale),
-                                                          QQuickWindow::TextureHasAlphaChannel));
-        node->setDevicePixelRatio(scale);
-        drawnLook_ = wanted;
-        drawnScale_ = scale;
-    }
-    const qreal out = wanted.outset();
-    const qreal patch = wanted.patch();
-    node->setPadding(patch, patch, patch, patch);
-    node->setBounds(boundingRect().adjusted(-out, -out, out, out));
-    node->update();
+    const QImage image = surfaceImage(look, size(), scale);
+    const qreal margin = surfaceMargin(look, scale) / scale;
+    node->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureHasAlphaChannel));
+    node->setRect({QPointF(-margin, -margin), QSizeF(image.size()) / scale});
+    stale_ = false;
     return node.release();
+}
+
+void Surface::geometryChange(const QRectF& now, const QRectF& before) {
+    if (now.size() != before.size()) {
+        redraw();
+    }
+    QQuickItem::geometryChange(now, before);
 }
 
 void Surface::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
-        update();
+        redraw();
     }
     QQuickItem::itemChange(change, data);
+}
+
+void Surface::redraw() {
+    stale_ = true;
+    update();
 }
 
 } // namespace quillmere

@@ -1,15 +1,14 @@
 #pragma once
 
-#include "Quillmere/controls/SurfaceTile.h"
+#include "Quillmere/controls/SurfaceImage.h"
 
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickItem>
 
 namespace quillmere {
 
-/// A rounded surface with a hairline border inside its edge and a soft shadow outside of it. Drawn
-/// once for each look and stretched from nine parts, so it costs the same at every size and with
-/// every renderer. The shadow reaches beyond the item and never shows through the fill.
+/// A rounded surface with a hairline border inside its edge and a soft shadow outside of it, drawn
+/// alike by every renderer. The shadow reaches beyond the item and never shows through the fill.
 class Surface : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -31,10 +30,11 @@ signals:
 
 protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
+    void geometryChange(const QRectF& now, const QRectF& before) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
-    [[nodiscard]] SurfaceLook look() const;
+    void redraw();
 
     QColor color_ = Qt::white;
     QColor borderColor_ = Qt::transparent;
@@ -43,9 +43,7 @@ private:
     QColor shadowColor_ = Qt::transparent;
     qreal shadowBlur_ = 0;
     qreal shadowOffset_ = 0;
-
-    SurfaceLook drawnLook_;
-    qreal drawnScale_ = 0;
+    bool stale_ = true;
 };
 
 } // namespace quillmere

@@ -1,5 +1,7 @@
 #include "Quillmere/theme/Contrast.h"
 
+#include "Quillmere/theme/Oklab.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,26 +9,16 @@ namespace quillmere {
 
 namespace {
 
-double linear(double component) {
-    return component <= 0.03928 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
-}
-
 float mixed(float top, float bottom, float alpha) {
     return top * alpha + bottom * (1 - alpha);
-}
-
-QColor withLightness(const QColor& color, double lightness) {
-    QColor hsl = color.toHsl();
-    hsl.setHslF(hsl.hslHueF(), hsl.hslSaturationF(), static_cast<float>(lightness));
-    return hsl.toRgb();
 }
 
 } // namespace
 
 double relativeLuminance(const QColor& color) {
     const QColor rgb = color.toRgb();
-    return 0.2126 * linear(rgb.redF()) + 0.7152 * linear(rgb.greenF()) +
-           0.0722 * linear(rgb.blueF());
+    return 0.2126 * linearized(rgb.redF()) + 0.7152 * linearized(rgb.greenF()) +
+           0.0722 * linearized(rgb.blueF());
 }
 
 double contrastRatio(const QColor& a, const QColor& b) {
@@ -47,16 +39,20 @@ QColor liftedToContrast(const QColor& color, const QColor& background, double ra
     }
     const bool lighten =
         contrastRatio(Qt::white, background) >= contrastRatio(Qt::black, background);
-    // Lightness that fails, and lightness that reads best.
-    double failing = color.toHsl().lightnessF();
+    const Oklab given = Oklab::from(color);
+    double failing = given.lightness;
     double reading = lighten ? 1 : 0;
     // 16 halvings are finer than a colour component of 8 bits.
     for (int i = 0; i < 16; ++i) {
         const double middle = (failing + reading) / 2;
-        const bool reads = contrastRatio(withLightness(color, middle), background) >= ratio;
+        const bool reads = contrastRatio(given.atLightness(middle).color(), background) >= ratio;
         (reads ? reading : failing) = middle;
     }
-    return withLightness(color, reading);
+    const QColor lifted = given.atLightness(reading).color();
+    if (contrastRatio(lifted, background) >= ratio) {
+        return lifted;
+    }
+    return lighten ? Qt::white : Qt::black;
 }
 
 } // namespace quillmere

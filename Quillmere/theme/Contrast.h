@@ -17,7 +17,7 @@ namespace quillmere {
 [[nodiscard]] QColor blended(const QColor& top, const QColor& bottom);
 
 /// `color` itself when it has the ratio against `background`, else the nearest lighter (on a dark
-/// background) or darker colour of the same hue and saturation that has it. Where no such colour
+/// background) or darker colour of the same hue that has it. Where no such colour
 /// exists, white or black.
 [[nodiscard]] QColor liftedToContrast(const QColor& color, const QColor& background, double ratio);
 

@@ -19,14 +19,16 @@ struct SurfaceLook {
 
     friend bool operator==(const SurfaceLook&, const SurfaceLook&) = default;
 
-    /// How far the shadow reaches beyond the body.
+    /// How far the shadow may reach beyond the body.
     [[nodiscard]] qreal outset() const;
-    /// The corner part of the tile, shadow included: what is not stretched.
-    [[nodiscard]] qreal patch() const;
 };
 
-/// The smallest square image of the look at `scale` device pixels a logical one: four corners of
-/// `patch` and a few pixels between them that may be stretched.
-[[nodiscard]] QImage surfaceTile(const SurfaceLook& look, qreal scale);
+/// A body of the given size with its shadow around it, at `scale` device pixels a logical one. The
+/// margin is `surfaceMargin` on every side. Drawn with its corners only and stretched between them,
+/// so that a large surface costs little more than a small one.
+[[nodiscard]] QImage surfaceImage(const SurfaceLook& look, const QSizeF& body, qreal scale);
+
+/// The room for the shadow in device pixels.
+[[nodiscard]] int surfaceMargin(const SurfaceLook& look, qreal scale);
 
 } // namespace quillmere
