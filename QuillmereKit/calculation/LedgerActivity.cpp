@@ -29,7 +29,9 @@ std::vector<LedgerRow> recentItems(std::span<const LedgerRow> adjustments,
             items.push_back(*row);
         }
     }
-    const auto isLast = [&](const LedgerRow& row) { return row.id == lastTransaction->id; };
+    const auto isLast = [&](const LedgerRow& row) {
+        return row.isListed && row.id == lastTransaction->id;
+    };
     if (lastTransaction && std::ranges::none_of(adjustments, isLast)) {
         items.push_back(*lastTransaction);
         std::ranges::sort(items, [](const LedgerRow& a, const LedgerRow& b) { return a < b; });

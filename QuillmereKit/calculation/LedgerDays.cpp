@@ -15,7 +15,8 @@ using platform::DateInterval;
 /// The days an interval touches; its end, and the second before it, belong to the day before.
 platform::DayTable daysOf(DateInterval interval, const platform::Calendar& calendar) {
     constexpr platform::Instant none{std::numeric_limits<double>::quiet_NaN()};
-    return {calendar, interval.start, calendar.addingSeconds(interval.end, -1).value_or(none)};
+    return {calendar, calendar.startOfDay(interval.start),
+            calendar.addingSeconds(interval.end, -1).value_or(none)};
 }
 
 std::vector<DayBalance> emptyDays(const platform::DayTable& table) {

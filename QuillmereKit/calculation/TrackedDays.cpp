@@ -56,10 +56,9 @@ std::vector<DayBalance> dayBalances(std::span<WorkEntry* const> entries,
                                     std::span<WorkSchedule* const> schedules,
                                     const TimeBankSettings& settings, Instant through,
                                     const platform::Calendar& calendar) {
-    const DayTable table(calendar,
-                         std::max(settings.calculationStartDate(),
-                                  TimeBankDateBounds::earliestCalculationDate(calendar)),
-                         through);
+    const Instant start = std::max(settings.calculationStartDate(),
+                                   TimeBankDateBounds::earliestCalculationDate(calendar));
+    const DayTable table(calendar, calendar.startOfDay(start), through);
     std::vector<DayBalance> days(table.size());
     if (days.empty()) {
         return days;
