@@ -51,7 +51,11 @@ function(quillmere_qml_module folder)
   set(target quillmere_${folder})
   qt_add_library(${target} STATIC)
   set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
-  qt_add_qml_module(${target}
+  # Debug builds read QML at run time, which makes them much quicker to build.
+  if(CMAKE_BUILD_TYPE STREQUAL "Debug")
+    set(cachegen NO_CACHEGEN)
+  endif()
+  qt_add_qml_module(${target} ${cachegen}
     URI Quillmere.${folder}
     VERSION 1.0
     RESOURCE_PREFIX /qt/qml
