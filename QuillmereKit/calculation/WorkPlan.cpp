@@ -1,6 +1,6 @@
 #include "QuillmereKit/calculation/WorkPlan.h"
 
-#include "QuillmereKit/maintenance/SurvivorRules.h"
+#include "QuillmereKit/records/SurvivorRules.h"
 #include "QuillmereKit/records/TimeBankSettings.h"
 #include "QuillmereKit/records/WorkSchedule.h"
 

@@ -1,8 +1,8 @@
 #include "QuillmereKit/calculation/TimeBankDateBounds.h"
 #include "QuillmereKit/maintenance/DataStoreMaintenance.h"
 #include "QuillmereKit/maintenance/ScheduleRepair.h"
-#include "QuillmereKit/maintenance/SurvivorRules.h"
 #include "QuillmereKit/records/RecordTimestampValidation.h"
+#include "QuillmereKit/records/SurvivorRules.h"
 #include "QuillmereKit/rules/AdjustmentCategoryValidation.h"
 
 #include <algorithm>

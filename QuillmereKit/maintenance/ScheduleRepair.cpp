@@ -1,7 +1,7 @@
 #include "QuillmereKit/maintenance/ScheduleRepair.h"
 
-#include "QuillmereKit/maintenance/SurvivorRules.h"
 #include "QuillmereKit/records/RecordTimestampValidation.h"
+#include "QuillmereKit/records/SurvivorRules.h"
 #include "QuillmereKit/records/WorkSchedule.h"
 
 #include <algorithm>
@@ -25,10 +25,14 @@ ScheduleRepair::ScheduleRepair(platform::store::Context& context,
     mark_.finding = calendar.timeZone().name();
 }
 
-bool ScheduleRepair::isClean() const {
+bool ScheduleRepair::isClean() {
     const auto last = memory_.recall(now_);
-    return last && last->finding == mark_.finding &&
-           context_.fetchChangedSince<WorkSchedule>(last->revision).empty();
+    if (!last || last->finding != mark_.finding ||
+        !context_.fetchChangedSince<WorkSchedule>(last->revision).empty()) {
+        return false;
+    }
+    mark_.newestModifiedAt = last->newestModifiedAt;
+    return true;
 }
 
 bool ScheduleRepair::run() {

@@ -25,7 +25,8 @@ public:
 private:
     struct Schedule;
 
-    [[nodiscard]] bool isClean() const;
+    /// Whether nothing needs a look; keeps what the last mark knows.
+    bool isClean();
     bool repairTimes(Schedule& schedule);
     bool repairSurvivor(const Schedule& schedule, platform::Instant day);
     bool remove(const Schedule& schedule);

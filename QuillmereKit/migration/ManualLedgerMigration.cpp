@@ -2,10 +2,10 @@
 
 #include "QuillmereKit/calculation/Fatal.h"
 #include "QuillmereKit/calculation/TimeBankCalculator.h"
-#include "QuillmereKit/maintenance/SurvivorRules.h"
 #include "QuillmereKit/migration/MarkerSearch.h"
 #include "QuillmereKit/records/AppConstants.h"
 #include "QuillmereKit/records/NoteValidation.h"
+#include "QuillmereKit/records/SurvivorRules.h"
 #include "QuillmereKit/records/WorkEntry.h"
 #include "QuillmereKit/records/WorkSchedule.h"
 #include "QuillmereKit/rules/AdjustmentCategoryValidation.h"

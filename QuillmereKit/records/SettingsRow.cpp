@@ -1,6 +1,6 @@
 #include "QuillmereKit/records/SettingsRow.h"
 
-#include "QuillmereKit/maintenance/SurvivorRules.h"
+#include "QuillmereKit/records/SurvivorRules.h"
 
 namespace quillmere {
 

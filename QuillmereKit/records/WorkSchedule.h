@@ -14,7 +14,7 @@ namespace quillmere {
 /// A week of planned minutes that applies from a date on. Setters never touch `modifiedAt`.
 class WorkSchedule final : public platform::store::Record<WorkScheduleValues> {
 public:
-    explicit WorkSchedule(Values values) : Record(std::move(values)) {}
+    explicit WorkSchedule(const Values& values) : Record(values) {}
 
     /// Weekday minutes as by `setWeekdayMinutes`, everything else as given.
     WorkSchedule(platform::Uuid id, platform::Instant effectiveFrom,

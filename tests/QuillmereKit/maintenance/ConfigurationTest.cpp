@@ -169,15 +169,18 @@ TEST_F(ConfigurationTest, RepairsScheduleTimesBeforeChoosing) {
     EXPECT_EQ(other.createdAt(), now + 200);
 }
 
-TEST_F(ConfigurationTest, LooksAtSchedulesAgainInAnotherZone) {
-    insertSettings(clean);
-    const WorkSchedule& schedule = insertSchedule(berlin(3, 2), 1, 1, 1);
-    repair();
-    context->insert(TimeBankSettings::create(clock)); // makes a pass that saves, and remembers
-    repair();
+TEST_F(ConfigurationTest, LooksAtSchedulesAgainInAnotherZoneAndAfterTheClockWentBack) {
+    WorkSchedule& schedule = insertSchedule(berlin(3, 2), 1, 1, 1);
+    schedule.setModifiedAt(now + 200);
+    for (int i = 0; i < 2; ++i) { // passes that save, and so remember
+        insertSettings(clean);
+        repair();
+    }
     const Revision saved = context->revision();
-    repair();
+    repair(now - 50);
     EXPECT_EQ(context->revision(), saved);
+    repair(now - 200);
+    EXPECT_EQ(schedule.modifiedAt(), now - 200);
     calendar = calendarIn("Asia/Tokyo");
     repair();
     EXPECT_EQ(schedule.effectiveFrom(), calendar.startOfDay(berlin(3, 2)));

@@ -1,0 +1,109 @@
+// What every start and every change pays for a store of 100,000 changes that is in order, beside a
+// scan of all its rows.
+
+#include "Platform/store/Store.h"
+#include "QuillmereKit/maintenance/StorePreparation.h"
+#include "QuillmereKit/persistence/QuillmerePersistence.h"
+#include "QuillmereKit/records/BalanceAdjustment.h"
+#include "QuillmereKit/transactions/TimeBankTransactionController.h"
+#include "QuillmereKit/widget/WidgetSnapshotBuilder.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace quillmere {
+
+namespace {
+
+constexpr std::size_t changeCount = 100'000;
+
+/// A store on disk with a completed setup, repaired once.
+class LargeStore {
+public:
+    LargeStore() {
+        const auto context = makeContext();
+        TimeBankSettings& settings = StorePreparation::prepare(*context);
+        StorePreparation::completeOnboarding(*context, settings);
+        for (std::size_t i = 0; i < changeCount; ++i) {
+            auto change = BalanceAdjustment::create(clock_);
+            change->setDate(clock_.now() - static_cast<double>(i) * 1'600);
+            change->setMinutes(static_cast<std::int64_t>(i % 480) - 240);
+            change->setNote("A note of ordinary length");
+            context->insert(std::move(change));
+        }
+        context->save();
+        StorePreparation::prepare(*context);
+    }
+    ~LargeStore() { std::filesystem::remove_all(folder_); }
+    LargeStore(const LargeStore&) = delete;
+    LargeStore& operator=(const LargeStore&) = delete;
+
+    [[nodiscard]] std::unique_ptr<platform::store::Context> makeContext() const {
+        return store_->makeContext({clock_, calendars_});
+    }
+    [[nodiscard]] platform::Instant now() const { return clock_.now(); }
+
+private:
+    static std::filesystem::path makeFolder() {
+        std::string name = std::filesystem::temp_directory_path() / "kit-benchmark-XXXXXX";
+        return mkdtemp(name.data());
+    }
+
+    platform::SystemClock clock_;
+    platform::FixedCalendarSource calendars_{
+        {platform::TimeZone::utc(), platform::Region::fromLocale("C")}};
+    std::filesystem::path folder_ = makeFolder();
+    std::shared_ptr<platform::store::Store> store_ =
+        QuillmerePersistence::makeContainer(false, false, false, {folder_, folder_});
+};
+
+const LargeStore& largeStore() {
+    static const LargeStore shared;
+    return shared;
+}
+
+void limitScanOfAllRows(benchmark::State& state) {
+    const auto context = largeStore().makeContext();
+    for (auto _ : state) {
+        std::int64_t minutes = 0;
+        context->scan<BalanceAdjustment>(
+            {}, [&](platform::store::RowKey, const auto& values) { minutes += values.minutes; });
+        benchmark::DoNotOptimize(minutes);
+    }
+}
+BENCHMARK(limitScanOfAllRows)->Unit(benchmark::kMillisecond);
+
+void repairOfARepairedStore(benchmark::State& state) {
+    const LargeStore& store = largeStore();
+    for (auto _ : state) {
+        const auto context = store.makeContext();
+        benchmark::DoNotOptimize(StorePreparation::prepare(*context).id());
+    }
+}
+BENCHMARK(repairOfARepairedStore)->Unit(benchmark::kMillisecond);
+
+void recordOneChange(benchmark::State& state) {
+    const auto context = largeStore().makeContext();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(TimeBankTransactionController::record(30, largeStore().now(),
+                                                                       "note", "manual", *context));
+    }
+}
+BENCHMARK(recordOneChange)->Unit(benchmark::kMillisecond);
+
+void widgetSnapshot(benchmark::State& state) {
+    const LargeStore& store = largeStore();
+    const auto context = store.makeContext();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(WidgetSnapshotBuilder::make(*context, store.now()));
+    }
+}
+BENCHMARK(widgetSnapshot)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace quillmere
