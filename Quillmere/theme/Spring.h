@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QList>
+#include <QtCore/QEasingCurve>
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -17,8 +17,7 @@ class Spring : public QObject {
     QML_SINGLETON
     /// Time until the motion is over, in milliseconds.
     Q_PROPERTY(int duration READ duration CONSTANT)
-    /// For `easing.bezierCurve` with `easing.type: Easing.BezierSpline`.
-    Q_PROPERTY(QList<qreal> curve READ curve CONSTANT)
+    Q_PROPERTY(QEasingCurve easing READ easing CONSTANT)
 
 public:
     static constexpr double response = 0.5;
@@ -28,11 +27,9 @@ public:
 
     /// The way done after `seconds`, where 0 is the start and 1 the goal; passes 1 slightly.
     [[nodiscard]] static double position(double seconds);
-    /// Ways per second at `seconds`.
-    [[nodiscard]] static double velocity(double seconds);
 
     [[nodiscard]] static int duration();
-    [[nodiscard]] static QList<qreal> curve();
+    [[nodiscard]] static QEasingCurve easing();
 };
 
 } // namespace quillmere

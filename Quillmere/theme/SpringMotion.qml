@@ -5,6 +5,5 @@ import Quillmere.theme
 // less of it.
 NumberAnimation {
     duration: Theme.springDuration
-    easing.type: Easing.BezierSpline
-    easing.bezierCurve: Spring.curve
+    easing: Spring.easing
 }
