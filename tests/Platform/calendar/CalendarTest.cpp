@@ -31,6 +31,7 @@ const OddDay oddDays[] = {
     {"Pacific/Apia", {2011, 12, 31}, 1325239200, 24},
     {"America/St_Johns", {2010, 11, 7}, 1289097000, 25}, // from 00:01 to 23:01 the day before
     {"Africa/Monrovia", {1972, 1, 7}, 63593070, 23.0 + 930.0 / 3600}, // 44 min 30 s forward
+    {"America/Toronto", {1919, 3, 31}, -1601753400, 23.5},            // from 23:30 to 00:30
     {"Europe/Berlin", {2026, 3, 29}, 1774738800, 23},
     {"Europe/Berlin", {2026, 10, 25}, 1792879200, 25},
 };
