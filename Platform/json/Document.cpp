@@ -4,7 +4,6 @@
 #include "Platform/json/SimdjsonAccess.h"
 
 #include <algorithm>
-#include <charconv>
 #include <span>
 #include <string>
 #include <vector>
@@ -28,36 +27,6 @@ simdjson::error_code parseInto(dom::document& document, std::string_view text) {
         return error;
     }
     return parser.parse_into_document(document, text.data(), text.size()).error();
-}
-
-/// The code unit of an escape "\uXXXX" at `position`, or 0 when there is none.
-unsigned escapedUnit(std::string_view text, std::size_t position) {
-    unsigned unit = 0;
-    if (text.substr(position).starts_with("\\u") && text.size() >= position + 6) {
-        std::from_chars(text.data() + position + 2, text.data() + position + 6, unit, 16);
-    }
-    return unit;
-}
-
-/// Of a text that is valid JSON otherwise, where a backslash can only begin an escape.
-bool hasLoneSurrogate(std::string_view text) {
-    std::size_t position = text.find('\\');
-    while (position < text.size()) {
-        const unsigned unit = escapedUnit(text, position);
-        if (unit >= 0xDC00 && unit <= 0xDFFF) {
-            return true;
-        }
-        std::size_t length = 2;
-        if (unit >= 0xD800 && unit <= 0xDBFF) {
-            const unsigned second = escapedUnit(text, position + 6);
-            if (second < 0xDC00 || second > 0xDFFF) {
-                return true;
-            }
-            length = 12;
-        }
-        position = text.find('\\', position + length);
-    }
-    return false;
 }
 
 bool hasDuplicates(std::span<std::string_view> keys) {
@@ -131,9 +100,6 @@ Document parse(std::string_view text) {
         if (amended.empty() || parseInto(storage->document, amended) != simdjson::SUCCESS) {
             throw JsonError(simdjson::error_message(error));
         }
-    }
-    if (hasLoneSurrogate(text)) {
-        throw JsonError("a surrogate is escaped without its partner");
     }
     KeyCheck().visit(storage->document.root());
     return Document(std::move(storage));

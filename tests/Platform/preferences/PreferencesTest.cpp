@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -141,10 +142,11 @@ TEST_F(FilePreferencesTest, KeepsADamagedFileAside) {
 }
 
 TEST_F(FilePreferencesTest, NeverReplacesAFileItCannotRead) {
-    fs::create_directories(file_);
+    createPrivateFolder(domain_);
+    ASSERT_EQ(::mkfifo(file_.c_str(), 0600), 0);
     EXPECT_FALSE(preferences_.contains("a"));
     EXPECT_FALSE(preferences_.setBoolean("a", true) || preferences_.remove("a"));
-    EXPECT_TRUE(fs::is_directory(file_));
+    EXPECT_TRUE(fs::is_fifo(file_));
 }
 
 TEST_F(FilePreferencesTest, SeesWhatOthersWroteAndTellsTheListener) {
