@@ -52,7 +52,7 @@ function(quillmere_qml_module folder)
   qt_add_library(${target} STATIC)
   set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
   # Builds that nobody installs read QML at run time, which makes them much quicker to build.
-  if(CMAKE_BUILD_TYPE STREQUAL "Debug" OR QUILLMERE_SANITIZERS)
+  if(NOT QUILLMERE_COMPILE_QML)
     set(cachegen NO_CACHEGEN)
   endif()
   qt_add_qml_module(${target} ${cachegen}
