@@ -91,7 +91,8 @@ std::string conditionSql(const std::string& column, const Condition& condition,
     }
     std::string sql = column;
     sql += symbol(condition.comparison);
-    sql += "?" + std::to_string(parameter);
+    sql += "?";
+    sql += std::to_string(parameter);
     if (instantOf(condition.value) != nullptr && isAbove(condition.comparison)) {
         sql += " AND " + column + " <= 9e999"; // leaves out blobs, which sort after all numbers
     }

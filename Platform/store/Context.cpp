@@ -45,6 +45,15 @@ public:
         }
     }
 
+    /// What keeps the pending changes from being written, or would take them with it afterwards.
+    void checkWritable() {
+        store->checkSound();
+        if (database->hasMoved()) {
+            throw StoreError(StoreFault::io, "the store's file was moved, deleted or replaced");
+        }
+        settleFailedCommit(*database);
+    }
+
     /// The pending changes as one durable transaction, on top of what others committed.
     [[nodiscard]] Revision write(const Schema& schema) {
         Transaction transaction(*database, Transaction::Kind::write);
@@ -57,6 +66,14 @@ public:
         writeNotes();
         transaction.commit();
         return revision;
+    }
+
+    void tryToSettleFailedCommit() noexcept {
+        try {
+            settleFailedCommit(*database);
+        } catch (const StoreError&) {
+            // The next save tries again, and tells.
+        }
     }
 
     const std::shared_ptr<Store> store;
@@ -137,8 +154,7 @@ void Context::save() {
     if (!hasChanges()) {
         return;
     }
-    impl_->store->checkSound();
-    settleFailedCommit(*impl_->database);
+    impl_->checkWritable();
     try {
         impl_->seen = impl_->write(impl_->store->schema());
     } catch (const StoreError&) {
@@ -162,6 +178,7 @@ void Context::rollback() noexcept {
 }
 
 void Context::refresh() {
+    impl_->tryToSettleFailedCommit();
     const std::int64_t dataVersion = impl_->dataVersion();
     if (dataVersion == impl_->seenDataVersion) {
         return;
@@ -197,7 +214,7 @@ void Context::detach(LiveQueryBase& query) {
     std::ranges::replace(impl_->queries, &query, nullptr);
 }
 
-void Context::publish() {
+void Context::publish() noexcept {
     impl_->hasMoreToPublish = true;
     if (std::exchange(impl_->isPublishing, true)) {
         return;

@@ -64,7 +64,7 @@ public:
 
     /// Visits the values of all records that meet the filter, unsaved changes included, in
     /// unspecified order and without making record objects: for bulk reading. The values are valid
-    /// during the visit only.
+    /// during the visit only, and the visitor must not change records.
     template <class R>
     void scan(const Filter<R>& filter,
               const std::function<void(RowKey, const typename R::Values&)>& visit) {
@@ -138,7 +138,7 @@ private:
     void detach(LiveQueryBase& query);
     /// Brings the live queries up to date with what was staged and tells their observers. Inside an
     /// observer it only notes that there is more to publish.
-    void publish();
+    void publish() noexcept;
 
     std::unique_ptr<Impl> impl_;
 };

@@ -96,6 +96,12 @@ bool Database::isInTransaction() const {
     return sqlite3_get_autocommit(handle_.get()) == 0;
 }
 
+bool Database::hasMoved() const {
+    int moved = 0;
+    sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
 bool Database::isReadOnly() const {
     return sqlite3_db_readonly(handle_.get(), "main") == 1;
 }

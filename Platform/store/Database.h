@@ -49,6 +49,8 @@ public:
     /// Rows concerned by the latest statement.
     [[nodiscard]] int changedRows() const;
     [[nodiscard]] bool isInTransaction() const;
+    /// Whether the file was moved, deleted or replaced since it was opened.
+    [[nodiscard]] bool hasMoved() const;
     /// Whether the file could only be opened for reading.
     [[nodiscard]] bool isReadOnly() const;
     /// Whether closing the last connection moves the log into the file; at first it does not.

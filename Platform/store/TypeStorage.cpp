@@ -145,8 +145,9 @@ void TypeStorage::write(Revision revision) {
     }
     newKeys_.clear();
     std::erase_if(inserted_, [](const RecordBase* record) { return !record->isAlive(); });
+    Statement insert = database_.prepare(insertSql_);
     for (const RecordBase* record : inserted_) {
-        insertRow(*record, revision);
+        insertRow(insert, *record, revision);
         newKeys_.push_back(RowKey{database_.lastInsertKey()});
     }
 }
@@ -189,17 +190,14 @@ void TypeStorage::writeAnew(const RecordBase& record, Revision revision) {
     exhume.bindText(1, table_.name);
     exhume.bindInteger(2, number(record.key_));
     exhume.run();
-    insertRow(record, revision);
+    Statement insert = database_.prepare(insertSql_);
+    insert.bindInteger(static_cast<int>(table_.columns.size() + 2), number(record.key_));
+    insertRow(insert, record, revision);
 }
 
-void TypeStorage::insertRow(const RecordBase& record, Revision revision) {
-    const std::size_t fields = table_.columns.size();
-    Statement insert = database_.prepare(insertSql_);
+void TypeStorage::insertRow(Statement& insert, const RecordBase& record, Revision revision) {
     bindFields(insert, record, FieldMask{}.set());
-    insert.bindInteger(static_cast<int>(fields + 1), number(revision));
-    if (record.state_ == RecordState::stored) {
-        insert.bindInteger(static_cast<int>(fields + 2), number(record.key_));
-    }
+    insert.bindInteger(static_cast<int>(table_.columns.size() + 1), number(revision));
     insert.run();
 }
 
@@ -232,6 +230,7 @@ void TypeStorage::settleChanged(Revision revision) {
 
 void TypeStorage::settleInserted(Revision revision) {
     const std::vector<RecordBase*> inserted = std::exchange(inserted_, {});
+    identities_.reserve(identities_.size() + inserted.size());
     for (std::size_t i = 0; i < inserted.size(); ++i) {
         RecordBase& record = *inserted[i];
         const RowKey provisional = record.key_;

@@ -88,7 +88,7 @@ private:
     void markChanged(RecordBase& record);
     void takeInDeletion(RowKey key);
     void detach(RecordBase& record);
-    void insertRow(const RecordBase& record, Revision revision);
+    void insertRow(Statement& insert, const RecordBase& record, Revision revision);
     void updateRow(const RecordBase& record, Revision revision);
     void writeAnew(const RecordBase& record, Revision revision);
     void deleteRow(const RecordBase& record, Revision revision);

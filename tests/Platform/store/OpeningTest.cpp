@@ -238,6 +238,14 @@ TEST_F(OpeningTest, FileSystemThatFillsUpAndIsReadOnlyLater) {
     EXPECT_EQ(code, exitCode(StoreFault::readOnly));
 }
 
+TEST_F(OpeningTest, FileThatWasDeletedMeanwhile) {
+    const auto context = openContext();
+    addReminder(*context, "would be lost");
+    std::filesystem::remove(file());
+    EXPECT_EQ(faultOf([&] { context->save(); }), StoreFault::io);
+    EXPECT_TRUE(context->hasChanges());
+}
+
 TEST_F(OpeningTest, StoreThatAnotherKeepsLocked) {
     fill();
     const auto store = Store::open(testSchema(), {.file = file(), .busyTimeoutMilliseconds = 20});

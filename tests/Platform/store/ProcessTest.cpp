@@ -37,7 +37,6 @@ public:
         ::close(output[1]);
         input_ = input[1];
         output_ = ::fdopen(output[0], "r");
-        EXPECT_EQ(readLine(), "open");
     }
     ~Helper() {
         (void)wait();
@@ -47,7 +46,10 @@ public:
     Helper(const Helper&) = delete;
     Helper& operator=(const Helper&) = delete;
 
-    void start() const { EXPECT_EQ(::write(input_, "\n", 1), 1); }
+    void start() {
+        EXPECT_EQ(readLine(), "open");
+        EXPECT_EQ(::write(input_, "\n", 1), 1);
+    }
 
     /// The title of the next reminder that was saved; empty at the end.
     std::string readLine() {
@@ -131,6 +133,20 @@ TEST_F(ProcessTest, ConcurrentSavesOfThreadsAndProcessesLoseNothing) {
     EXPECT_EQ(context->revision(), Revision{1 + 4 * count})
         << "each save has a revision of its own";
     EXPECT_EQ(findTitle(*context, "shared")->values().minutes, count - 1);
+}
+
+TEST_F(ProcessTest, ProcessesThatCreateAStoreTogetherShareIt) {
+    for (int round = 0; round < 5; ++round) {
+        std::filesystem::remove_all(file().parent_path());
+        std::array<Helper, 3> helpers{{{file(), "a", 3}, {file(), "b", 3}, {file(), "c", 3}}};
+        for (Helper& helper : helpers) {
+            helper.start();
+        }
+        for (Helper& helper : helpers) {
+            EXPECT_EQ(helper.wait(), 0);
+        }
+        EXPECT_EQ(titles(*openContext()), "a0 a1 a2 b0 b1 b2 c0 c1 c2");
+    }
 }
 
 TEST_F(ProcessTest, ContextsInMemoryWorkOnSeveralThreads) {
