@@ -17,7 +17,8 @@ const QString interface = QStringLiteral("org.freedesktop.Application");
 } // namespace
 
 InstanceService::InstanceService(QDBusConnection bus, QObject* parent)
-    : QObject(parent), bus_(std::move(bus)) {}
+    : QObject(parent), bus_(std::move(bus)) {
+}
 
 InstanceService::Claim InstanceService::claim() {
     if (!bus_.isConnected()) {
@@ -37,7 +38,8 @@ InstanceService::Claim InstanceService::claim() {
 
 bool InstanceService::handOver(const QList<QUrl>& urls, const StartRequest& request) {
     QDBusMessage message = QDBusMessage::createMethodCall(
-        service, path, interface, urls.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
+        service, path, interface,
+        urls.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open"));
     if (!urls.isEmpty()) {
         message << QUrl::toStringList(urls);
     }

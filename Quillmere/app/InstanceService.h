@@ -10,9 +10,9 @@
 
 namespace quillmere {
 
-/// Makes the program the only one of its user's session: it owns the bus name `dev.vantor.quillmere`
-/// and answers org.freedesktop.Application (Desktop Entry Specification 1.5, "D-Bus Activation") on
-/// /dev/vantor/quillmere. Main thread.
+/// Makes the program the only one of its user's session: it owns the bus name
+/// `dev.vantor.quillmere` and answers org.freedesktop.Application (Desktop Entry Specification 1.5,
+/// "D-Bus Activation") on /dev/vantor/quillmere. Main thread.
 class InstanceService : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -27,8 +27,8 @@ public:
     };
     [[nodiscard]] Claim claim();
 
-    /// Asks the first program to open the links, or to come forward when there are none, on behalf of
-    /// the request that this program was started with. False when it did not answer.
+    /// Asks the first program to open the links, or to come forward when there are none, on behalf
+    /// of the request that this program was started with. False when it did not answer.
     [[nodiscard]] bool handOver(const QList<QUrl>& urls, const StartRequest& request);
 
 public slots:

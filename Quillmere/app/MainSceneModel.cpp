@@ -24,7 +24,8 @@ std::map<AppRoute, Screen> screensOf(StoreSession& session,
     };
     return {
         {AppRoute::overview,
-         {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/dashboard/DashboardView.qml")), makeDashboard}},
+         {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/dashboard/DashboardView.qml")),
+          makeDashboard}},
         {AppRoute::history, blankScreen("qrc:/qt/qml/Quillmere/history/HistoryView.qml")},
         {AppRoute::reports, blankScreen("qrc:/qt/qml/Quillmere/reports/ReportsView.qml")},
         {AppRoute::settings, blankScreen("qrc:/qt/qml/Quillmere/settings/SettingsView.qml")},
@@ -37,6 +38,7 @@ MainSceneModel::MainSceneModel(StoreSession& session, const Application& applica
                                QObject* parent)
     : QObject(parent),
       gate_(session, application.appState, application.preferences, application.prototype),
-      root_(application.routes, screensOf(session, application)) {}
+      root_(application.routes, screensOf(session, application)) {
+}
 
 } // namespace quillmere

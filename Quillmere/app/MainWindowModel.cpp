@@ -30,7 +30,8 @@ MainWindowModel::Content MainWindowModel::content() const {
     return scene_ ? Scene : Unavailable;
 }
 
-// The views go with the signal (a `Loader` queues their deletion), then the models, then the session.
+// The views go with the signal (a `Loader` queues their deletion), then the models, then the
+// session.
 void MainWindowModel::onSessionChanged() {
     auto old = std::exchange(scene_, nullptr);
     if (StoreSession* session = storage_.session()) {

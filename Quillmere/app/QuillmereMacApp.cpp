@@ -21,13 +21,19 @@ StoreLocations locationsIn(const platform::UserFolders& folders) {
 } // namespace
 
 QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
-    : QObject(parent), folders_(platform::UserFolders::ofEnvironment()),
+    : QObject(parent),
+      folders_(platform::UserFolders::ofEnvironment()),
       preferences_(folders_.configuration() / "dev.vantor.quillmere"),
       prototype_(folders_.configuration() / "dev.vantor.Quillmere"),
-      entitlements_(platform::FileEntitlements::ofRunningProgram()), desktop_(bus),
-      appearance_(preferences_, desktop_), time_(clock_),
-      opener_(entitlements_, locationsIn(folders_)), container_(opener_, log_), appState_(log_),
-      storage_(container_, container_.make(), time_), routes_(preferences_),
+      entitlements_(platform::FileEntitlements::ofRunningProgram()),
+      desktop_(bus),
+      appearance_(preferences_, desktop_),
+      time_(clock_),
+      opener_(entitlements_, locationsIn(folders_)),
+      container_(opener_, log_),
+      appState_(log_),
+      storage_(container_, container_.make(), time_),
+      routes_(preferences_),
       // There is no tray item yet to come back from.
       delegate_(preferences_, [] { return false; }),
       mainWindowModel_(storage_, appearance_, {appState_, routes_, preferences_, prototype_}) {
@@ -44,7 +50,8 @@ QuillmereMacApp::~QuillmereMacApp() {
 
 bool QuillmereMacApp::show() {
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&mainWindowModel_)}});
+    engine_.setInitialProperties(
+        {{QStringLiteral("model"), QVariant::fromValue(&mainWindowModel_)}});
     desktop_.waitForFirstAnswer();
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/app/MainWindow.qml")));
     if (mainWindow() == nullptr) {

@@ -25,7 +25,8 @@ QList<QUrl> parseCommandLine(const QGuiApplication& application) {
     parser.setApplicationDescription(QStringLiteral("A manual time bank"));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("urls"), QStringLiteral("quillmere:// links to open"),
+    parser.addPositionalArgument(QStringLiteral("urls"),
+                                 QStringLiteral("quillmere:// links to open"),
                                  QStringLiteral("[urls…]"));
     parser.process(application);
     return urlsOf(parser.positionalArguments());

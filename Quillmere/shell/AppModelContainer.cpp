@@ -10,7 +10,8 @@ using platform::LogLevel;
 using platform::PrivateText;
 
 AppModelContainer::AppModelContainer(StoreOpener& opener, platform::LogSink& log)
-    : opener_(opener), log_(log, "dev.vantor.quillmere", "Persistence") {}
+    : opener_(opener), log_(log, "dev.vantor.quillmere", "Persistence") {
+}
 
 AppModelContainer::Result AppModelContainer::make() {
     if (!opener_.hasRequiredCloudKitEntitlements()) {
@@ -55,8 +56,8 @@ AppModelContainer::Result AppModelContainer::localFallback() {
     try {
         return {opener_.makeContainer(true, false, true), PersistenceMode::temporary};
     } catch (const std::exception& error) {
-        log_.write(LogLevel::fault, "Emergency in-memory store unavailable: ",
-                   PrivateText{error.what()});
+        log_.write(LogLevel::fault,
+                   "Emergency in-memory store unavailable: ", PrivateText{error.what()});
     }
     return {};
 }

@@ -8,7 +8,8 @@ namespace quillmere {
 class AppModelContainerError : public std::runtime_error {
 public:
     [[nodiscard]] static AppModelContainerError cloudKitEntitlementsUnavailable() {
-        return AppModelContainerError("This build doesn't contain the required iCloud entitlements.");
+        return AppModelContainerError(
+            "This build doesn't contain the required iCloud entitlements.");
     }
 
 private:

@@ -3,7 +3,8 @@
 namespace quillmere {
 
 AppState::AppState(platform::LogSink& log, QObject* parent)
-    : QObject(parent), log_(log, "dev.vantor.quillmere", "UserOperation") {}
+    : QObject(parent), log_(log, "dev.vantor.quillmere", "UserOperation") {
+}
 
 void AppState::report(const std::exception& error, const QString& title, const QString& message) {
     log_.write(platform::LogLevel::error, title.toStdString() + ": ",

@@ -13,8 +13,8 @@
 
 namespace quillmere {
 
-/// A failure as the user is told of it. Every report makes a new one, so two with the same texts are
-/// still two alerts.
+/// A failure as the user is told of it. Every report makes a new one, so two with the same texts
+/// are still two alerts.
 struct AppIssue {
     Q_GADGET
     QML_VALUE_TYPE(appIssue)

@@ -16,10 +16,10 @@ class TimeFollower;
 
 /// The opened record store for the life of the process, and the retry of private sync. Main thread.
 ///
-/// The store is closed and opened anew by a retry. Everything that holds the session lives inside it:
-/// whoever makes view models for a session gives them up in `sessionChanged` when `session()` has
-/// become null, with `deleteLater` at the latest. The old session goes right after them, in the same
-/// turn of the event loop, and the store is not opened again before.
+/// The store is closed and opened anew by a retry. Everything that holds the session lives inside
+/// it: whoever makes view models for a session gives them up in `sessionChanged` when `session()`
+/// has become null, with `deleteLater` at the latest. The old session goes right after them, in the
+/// same turn of the event loop, and the store is not opened again before.
 class AppStorageController : public QObject {
     Q_OBJECT
     QML_ELEMENT

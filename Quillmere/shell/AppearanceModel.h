@@ -8,8 +8,8 @@
 
 namespace quillmere {
 
-/// The look in effect: the user's choice ("appearance"), else the desktop's. The root of each window
-/// hands it to the theme. Main thread.
+/// The look in effect: the user's choice ("appearance"), else the desktop's. The root of each
+/// window hands it to the theme. Main thread.
 class AppearanceModel : public QObject {
     Q_OBJECT
     QML_ELEMENT

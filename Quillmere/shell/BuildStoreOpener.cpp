@@ -9,7 +9,8 @@ namespace quillmere {
 
 BuildStoreOpener::BuildStoreOpener(const platform::Entitlements& entitlements,
                                    StoreLocations locations)
-    : entitlements_(entitlements), locations_(std::move(locations)) {}
+    : entitlements_(entitlements), locations_(std::move(locations)) {
+}
 
 bool BuildStoreOpener::hasRequiredCloudKitEntitlements() const {
     return RuntimeEntitlements::hasRequiredCloudKitEntitlements(entitlements_);

@@ -30,7 +30,8 @@ double systemSeconds() {
 } // namespace
 
 InstantTimer::InstantTimer(const platform::Clock& clock, QObject* parent)
-    : QObject(parent), clock_(clock),
+    : QObject(parent),
+      clock_(clock),
       timer_(timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC)),
       notifier_(timer_.get(), QSocketNotifier::Read) {
     connect(&notifier_, &QSocketNotifier::activated, this, &InstantTimer::onReadable);
@@ -57,7 +58,8 @@ void InstantTimer::cancel() {
 
 // Absolute time and not an interval: a suspended machine wakes to a timer that has expired.
 void InstantTimer::arm() {
-    const double wait = std::clamp(*target_ - clock_.now(), shortestWaitSeconds, longestWaitSeconds);
+    const double wait =
+        std::clamp(*target_ - clock_.now(), shortestWaitSeconds, longestWaitSeconds);
     itimerspec when{};
     when.it_value = timespecOf(systemSeconds() + wait);
     timerfd_settime(timer_.get(), TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &when, nullptr);

@@ -20,14 +20,14 @@ public:
     explicit InstantTimer(const platform::Clock& clock, QObject* parent = nullptr);
     ~InstantTimer() override;
 
-    /// Replaces what was scheduled before. An instant that has passed fires from the event loop; one
-    /// that is not finite never fires.
+    /// Replaces what was scheduled before. An instant that has passed fires from the event loop;
+    /// one that is not finite never fires.
     void schedule(platform::Instant instant);
     void cancel();
     [[nodiscard]] bool isScheduled() const { return target_.has_value(); }
 
-    /// Asks the clock now, as the kernel's timer does by itself, and fires when the instant has come.
-    /// For clocks that are not the system's.
+    /// Asks the clock now, as the kernel's timer does by itself, and fires when the instant has
+    /// come. For clocks that are not the system's.
     void check();
 
 signals:

@@ -7,8 +7,8 @@
 
 namespace quillmere {
 
-/// `PersistenceMode` as QML sees it (`PersistenceMode.LocalOnly`): names of enumerators that QML can
-/// reach begin with a capital. The numbers are the same.
+/// `PersistenceMode` as QML sees it (`PersistenceMode.LocalOnly`): names of enumerators that QML
+/// can reach begin with a capital. The numbers are the same.
 class PersistenceModes {
     Q_GADGET
     QML_NAMED_ELEMENT(PersistenceMode)

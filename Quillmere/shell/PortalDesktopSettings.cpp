@@ -2,6 +2,7 @@
 
 #include <QtCore/QEvent>
 #include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusMetaType>
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusPendingReply>
 #include <QtGui/QGuiApplication>
@@ -31,8 +32,10 @@ bool overridden(const char* variable, bool value) {
 } // namespace
 
 PortalDesktopSettings::PortalDesktopSettings(QDBusConnection bus, QObject* parent)
-    : DesktopSettings(parent), bus_(std::move(bus)),
+    : DesktopSettings(parent),
+      bus_(std::move(bus)),
       firstAnswer_(readAll(firstAnswerMilliseconds)) {
+    qDBusRegisterMetaType<SettingsBySpace>();
     bus_.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
                  SLOT(onSettingChanged(QString, QString, QDBusVariant)));
     qGuiApp->installEventFilter(this);

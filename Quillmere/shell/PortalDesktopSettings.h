@@ -8,11 +8,11 @@
 
 namespace quillmere {
 
-/// The desktop's wishes as the desktop portal tells them, now and whenever they change; where it does
-/// not name a colour scheme, the lightness of the desktop's palette decides.
+/// The desktop's wishes as the desktop portal tells them, now and whenever they change; where it
+/// does not name a colour scheme, the lightness of the desktop's palette decides.
 ///
-/// `QUILLMERE_REDUCED_MOTION` and `QUILLMERE_HIGH_CONTRAST` in the environment ("1" or "0") go before
-/// what the desktop says.
+/// `QUILLMERE_REDUCED_MOTION` and `QUILLMERE_HIGH_CONTRAST` in the environment ("1" or "0") go
+/// before what the desktop says.
 class PortalDesktopSettings final : public DesktopSettings {
     Q_OBJECT
 
@@ -20,8 +20,8 @@ public:
     /// Asks the portal and returns at once. Without a connection there is only the palette.
     explicit PortalDesktopSettings(QDBusConnection bus, QObject* parent = nullptr);
 
-    /// Waits until the portal has answered, or `firstAnswerMilliseconds` since construction are over,
-    /// so that the first frame has the right colours. A later answer arrives as a change.
+    /// Waits until the portal has answered, or `firstAnswerMilliseconds` since construction are
+    /// over, so that the first frame has the right colours. A later answer arrives as a change.
     void waitForFirstAnswer();
 
     [[nodiscard]] DesktopLook look() const override;

@@ -8,7 +8,8 @@ namespace quillmere {
 
 QuillmereMacAppDelegate::QuillmereMacAppDelegate(const platform::Preferences& preferences,
                                                  std::function<bool()> hasTrayHost)
-    : preferences_(preferences), hasTrayHost_(std::move(hasTrayHost)) {}
+    : preferences_(preferences), hasTrayHost_(std::move(hasTrayHost)) {
+}
 
 bool QuillmereMacAppDelegate::applicationShouldTerminateAfterLastWindowClosed() const {
     const bool closesToTray =

@@ -12,8 +12,8 @@
 
 namespace quillmere {
 
-/// Which of the four routes the main window shows, kept under "main.selectedRoute". One per process,
-/// main thread.
+/// Which of the four routes the main window shows, kept under "main.selectedRoute". One per
+/// process, main thread.
 class RouteSelection : public QObject {
     Q_OBJECT
     QML_ELEMENT

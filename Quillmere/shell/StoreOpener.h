@@ -6,8 +6,8 @@
 
 namespace quillmere {
 
-/// Opens the record store and says what this build may use. `BuildStoreOpener` is the real one; tests
-/// have their own.
+/// Opens the record store and says what this build may use. `BuildStoreOpener` is the real one;
+/// tests have their own.
 class StoreOpener {
 public:
     virtual ~StoreOpener() = default;

@@ -31,8 +31,10 @@ constexpr auto readAgainAfter = 5s;
 class StoreSession::Impl {
 public:
     Impl(std::shared_ptr<Store> openedStore, TimeFollower& timeFollower)
-        : store(std::move(openedStore)), time(timeFollower),
-          context(store->makeContext({time.clock(), time})), settings(*context),
+        : store(std::move(openedStore)),
+          time(timeFollower),
+          context(store->makeContext({time.clock(), time})),
+          settings(*context),
           adjustments(*context) {}
 
     std::shared_ptr<Store> store;
@@ -91,8 +93,7 @@ void StoreSession::listen() {
 
 void StoreSession::watchOthers() {
     impl_->onCommit = std::make_shared<MainThreadCall>(*this, [this] { refresh(); });
-    impl_->commitRegistration =
-        impl_->store->onCommit([call = impl_->onCommit] { (*call)(); });
+    impl_->commitRegistration = impl_->store->onCommit([call = impl_->onCommit] { (*call)(); });
     try {
         impl_->watch = impl_->store->watchCommits();
         impl_->watchNotifier =
@@ -128,8 +129,8 @@ void StoreSession::readAndVerify() {
         QMetaObject::invokeMethod(this, std::move(function), Qt::QueuedConnection);
     };
     try {
-        auto rows = std::make_shared<AdjustmentsQuery::Loaded>(
-            AdjustmentsQuery::readRows(*impl_->store));
+        auto rows =
+            std::make_shared<AdjustmentsQuery::Loaded>(AdjustmentsQuery::readRows(*impl_->store));
         onMainThread([this, rows] { adoptHistory(*rows); });
     } catch (const std::exception& error) {
         onMainThread([this, reason = QString::fromUtf8(error.what())] { onHistoryFailed(reason); });
@@ -138,7 +139,8 @@ void StoreSession::readAndVerify() {
     try {
         impl_->store->verify();
     } catch (const std::exception& error) {
-        onMainThread([this, reason = QString::fromUtf8(error.what())] { emit readingFailed(reason); });
+        onMainThread(
+            [this, reason = QString::fromUtf8(error.what())] { emit readingFailed(reason); });
     }
 }
 

@@ -25,10 +25,10 @@ class TimeFollower;
 /// has arrived the adjustments query is loading. What other contexts and other programs commit is
 /// taken in within a second.
 ///
-/// View models are constructed with a reference to the session and never outlive it: the application
-/// makes them when a session starts, and when a session ends the QML objects go first, then the view
-/// models, then the session (see `AppStorageController`, `Screen`). A view model therefore may use
-/// context and queries in its destructor, and disconnects nothing by hand.
+/// View models are constructed with a reference to the session and never outlive it: the
+/// application makes them when a session starts, and when a session ends the QML objects go first,
+/// then the view models, then the session (see `AppStorageController`, `Screen`). A view model
+/// therefore may use context and queries in its destructor, and disconnects nothing by hand.
 class StoreSession : public QObject {
     Q_OBJECT
 
@@ -53,8 +53,8 @@ public:
 signals:
     /// The settings query published.
     void settingsChanged();
-    /// The adjustments query published; `steps` tells what moved. Empty steps after loading mean the
-    /// whole list is new.
+    /// The adjustments query published; `steps` tells what moved. Empty steps after loading mean
+    /// the whole list is new.
     void adjustmentsChanged(const std::vector<platform::store::ListStep>& steps);
     /// The store could not be read or is not whole; for the log. Reading the history is tried again
     /// by itself.

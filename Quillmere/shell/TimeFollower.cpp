@@ -10,7 +10,8 @@ using platform::Instant;
 namespace {
 
 constexpr double clockToleranceSeconds = 1;
-// A day without a next start of day lies at the end of the calendar; look again after a day's length.
+// A day without a next start of day lies at the end of the calendar; look again after a day's
+// length.
 constexpr double dayLengthSeconds = 86400;
 
 Instant nextStartOfDay(const Calendar& calendar, Instant today) {
@@ -21,9 +22,12 @@ Instant nextStartOfDay(const Calendar& calendar, Instant today) {
 } // namespace
 
 TimeFollower::TimeFollower(const platform::Clock& clock, QObject* parent)
-    : QObject(parent), clock_(clock),
+    : QObject(parent),
+      clock_(clock),
       calendar_(platform::TimeZone::system(), platform::Region::system()),
-      today_(calendar_.startOfDay(clock.now())), lastNow_(clock.now()), midnight_(clock) {
+      today_(calendar_.startOfDay(clock.now())),
+      lastNow_(clock.now()),
+      midnight_(clock) {
     sinceLast_.start();
     connect(&midnight_, &InstantTimer::fired, this, &TimeFollower::check);
     connect(&midnight_, &InstantTimer::clockSet, this, &TimeFollower::check);

@@ -13,9 +13,9 @@
 namespace quillmere {
 
 /// The user's present time and calendar, followed while the program runs. Emits when anything that
-/// shows "today" must look again: at midnight, when the clock was set, after a suspend, and when the
-/// time zone changed. The region is read once. One per process; `now` and `current` may be called on
-/// any thread, everything else on the main thread.
+/// shows "today" must look again: at midnight, when the clock was set, after a suspend, and when
+/// the time zone changed. The region is read once. One per process; `now` and `current` may be
+/// called on any thread, everything else on the main thread.
 class TimeFollower : public QObject, public platform::CalendarSource {
     Q_OBJECT
 
@@ -27,9 +27,9 @@ public:
     [[nodiscard]] platform::Instant now() const { return clock_.now(); }
     [[nodiscard]] platform::Calendar current() const override;
 
-    /// Looks at clock and zone now, as the timers do by themselves, and emits `changed` when the day
-    /// or the zone is another, or when the clock has moved by a second more or less than time has
-    /// passed. Tests that move a `ManualClock` call it.
+    /// Looks at clock and zone now, as the timers do by themselves, and emits `changed` when the
+    /// day or the zone is another, or when the clock has moved by a second more or less than time
+    /// has passed. Tests that move a `ManualClock` call it.
     void check();
 
 signals:

@@ -1,0 +1,103 @@
+#include "Quillmere/shell/StoreSession.h"
+
+#include "Quillmere/shell/TimeFollower.h"
+#include "QuillmereKit/persistence/QuillmerePersistence.h"
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <filesystem>
+
+namespace quillmere {
+namespace {
+
+using platform::store::LiveState;
+using platform::store::Store;
+
+constexpr int patience = 30'000;
+
+class StoreSessionTest : public testing::Test {
+protected:
+    StoreSessionTest() {
+        std::string name = std::filesystem::temp_directory_path() / "quillmere-XXXXXX";
+        folder_ = mkdtemp(name.data());
+    }
+    ~StoreSessionTest() override { std::filesystem::remove_all(folder_); }
+
+    [[nodiscard]] std::shared_ptr<Store> open() const {
+        return Store::open(QuillmerePersistence::schema(), {.file = folder_ / "Quillmere.sqlite"});
+    }
+
+    void save(Store& store, std::int64_t minutes) {
+        const auto context = store.makeContext({clock_, time_});
+        context->insert(std::make_unique<BalanceAdjustment>(
+            platform::Uuid::random(), clock_.now(), minutes, "", BalanceAdjustmentKind::manual,
+            clock_.now(), clock_.now()));
+        context->save();
+    }
+
+    static bool hasRows(StoreSession& session, std::size_t count) {
+        return QTest::qWaitFor(
+            [&] {
+                return session.adjustments().state() != LiveState::loading &&
+                       session.adjustments().size() == count;
+            },
+            patience);
+    }
+
+    std::filesystem::path folder_;
+    platform::SystemClock clock_;
+    TimeFollower time_{clock_};
+};
+
+TEST_F(StoreSessionTest, KnowsTheSettingsAtOnceAndTheHistoryLater) {
+    const auto store = open();
+    save(*store, 90);
+    {
+        const auto context = store->makeContext({clock_, time_});
+        context->insert(TimeBankSettings::create(clock_));
+        context->save();
+    }
+    StoreSession session(store, time_);
+    EXPECT_NE(session.settingsRecord(), nullptr);
+    EXPECT_EQ(session.adjustments().state(), LiveState::loading);
+    QSignalSpy published(&session, &StoreSession::adjustmentsChanged);
+    ASSERT_TRUE(hasRows(session, 1));
+    EXPECT_EQ(published.count(), 1);
+    EXPECT_EQ(session.adjustments()[0].minutes, 90);
+}
+
+TEST_F(StoreSessionTest, EmptyHistoryIsEmptyAndNotLoading) {
+    StoreSession session(open(), time_);
+    ASSERT_TRUE(hasRows(session, 0));
+    EXPECT_EQ(session.adjustments().state(), LiveState::empty);
+    EXPECT_EQ(session.settingsRecord(), nullptr);
+}
+
+TEST_F(StoreSessionTest, TakesInWhatOtherContextsAndOtherProgramsCommit) {
+    const auto store = open();
+    const auto otherProgram = open();
+    StoreSession session(store, time_);
+    ASSERT_TRUE(hasRows(session, 0));
+    save(*store, 30);
+    EXPECT_TRUE(hasRows(session, 1));
+    save(*otherProgram, 45);
+    EXPECT_TRUE(hasRows(session, 2));
+}
+
+TEST_F(StoreSessionTest, LetsGoOfTheStoreWhileItsHistoryIsBeingRead) {
+    std::weak_ptr<Store> store;
+    {
+        const auto opened = open();
+        store = opened;
+        const StoreSession session(opened, time_);
+    }
+    EXPECT_TRUE(store.expired());
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+} // namespace quillmere
