@@ -1,20 +1,16 @@
 #include "Platform/text/Characters.h"
 
+#include "Platform/text/IcuStatus.h"
+
 #include <unicode/brkiter.h>
 #include <unicode/utext.h>
 
 #include <algorithm>
 #include <memory>
-#include <stdexcept>
 #include <string>
 
 namespace platform {
 namespace {
-
-void require(UErrorCode status) {
-    if (U_FAILURE(status))
-        throw std::runtime_error(std::string("ICU cannot find characters: ") + u_errorName(status));
-}
 
 /// Kept, because building them takes far longer than using them on a note.
 thread_local std::unique_ptr<icu::BreakIterator> keptBoundaries;
@@ -24,7 +20,7 @@ icu::BreakIterator& characterBoundaries() {
         UErrorCode status = U_ZERO_ERROR;
         keptBoundaries.reset(
             icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
-        require(status);
+        requireIcu(status);
     }
     return *keptBoundaries;
 }
@@ -44,11 +40,11 @@ Reached advance(std::string_view text, std::size_t mostCharacters) {
     UErrorCode status = U_ZERO_ERROR;
     UText source = UTEXT_INITIALIZER;
     utext_openUTF8(&source, text.data(), static_cast<std::int64_t>(text.size()), &status);
-    require(status);
+    requireIcu(status);
     const std::unique_ptr<UText, decltype(&utext_close)> closing(&source, utext_close);
     auto& boundaries = characterBoundaries();
     boundaries.setText(&source, status);
-    require(status);
+    requireIcu(status);
     Reached reached{0, 0};
     while (reached.characters < mostCharacters) {
         const auto next = boundaries.next();

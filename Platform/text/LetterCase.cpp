@@ -1,5 +1,6 @@
 #include "Platform/text/LetterCase.h"
 
+#include "Platform/text/IcuStatus.h"
 #include "Platform/text/Utf8.h"
 
 #include <unicode/bytestream.h>
@@ -7,15 +8,9 @@
 #include <unicode/normalizer2.h>
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace platform {
 namespace {
-
-void require(UErrorCode status) {
-    if (U_FAILURE(status))
-        throw std::runtime_error(std::string("ICU cannot map letter case: ") + u_errorName(status));
-}
 
 std::string lowercasedAscii(std::string_view text) {
     std::string lower(text);
@@ -31,13 +26,13 @@ std::string lowercasedUnicode(std::string_view text) {
     std::string lower;
     icu::StringByteSink<std::string> lowerSink(&lower);
     icu::CaseMap::utf8ToLower("", 0, source, lowerSink, nullptr, status);
-    require(status);
+    requireIcu(status);
     const auto* composition = icu::Normalizer2::getNFCInstance(status);
-    require(status);
+    requireIcu(status);
     std::string composed;
     icu::StringByteSink<std::string> composedSink(&composed);
     composition->normalizeUTF8(0, lower, composedSink, nullptr, status);
-    require(status);
+    requireIcu(status);
     return composed;
 }
 
