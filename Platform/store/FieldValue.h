@@ -3,6 +3,7 @@
 #include "Platform/base/Instant.h"
 #include "Platform/base/Uuid.h"
 
+#include <cmath>
 #include <compare>
 #include <cstddef>
 #include <cstdint>
@@ -50,8 +51,8 @@ template <class T>
 template <class T>
 [[nodiscard]] std::weak_ordering ordering(const T& a, const T& b) {
     if constexpr (std::is_same_v<T, Instant>) {
-        const bool aIsNumber = a == a;
-        const bool bIsNumber = b == b;
+        const bool aIsNumber = !std::isnan(a.secondsSince1970);
+        const bool bIsNumber = !std::isnan(b.secondsSince1970);
         return aIsNumber && bIsNumber ? std::weak_order(a.secondsSince1970, b.secondsSince1970)
                                       : bIsNumber <=> aIsNumber;
     } else if constexpr (std::is_same_v<T, std::optional<Instant>>) {

@@ -8,9 +8,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
-#include <span>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -19,7 +17,7 @@ namespace platform::store {
 namespace {
 
 // Offsets of the database header; SQLite, "Database File Format", section 1.3.
-constexpr std::string_view magic{"SQLite format 3", 16};
+constexpr char magic[] = "SQLite format 3"; // with its final zero
 constexpr std::size_t headerSize = 100;
 constexpr std::size_t pageSizeAt = 16;
 constexpr std::size_t changeCounterAt = 24;
@@ -132,7 +130,7 @@ FileProbe FileProbe::read(const std::filesystem::path& file, const char* vfsName
         throw StoreError(StoreFault::damaged, "the file is shorter than a header");
     }
     const Header header = probed.header();
-    if (std::memcmp(header.data(), magic.data(), magic.size()) != 0) {
+    if (std::memcmp(header.data(), magic, sizeof magic) != 0) {
         throw StoreError(StoreFault::damaged, "the file is not a database");
     }
     const std::int64_t logSize = sizeOf(file, "-wal");

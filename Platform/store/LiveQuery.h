@@ -22,10 +22,11 @@ namespace platform::store {
 enum class LiveState { loading, empty, filled };
 
 template <class Row, class Values>
-concept LiveRow = std::copyable<Row> && requires(const Row& row, const Values& values) {
+concept LiveRow = std::copyable<Row> &&
+    requires(const Row& row, const Row& other, const Values& values) {
     { Row::make(row.ref, values) } -> std::same_as<std::optional<Row>>;
-    { row < row } -> std::convertible_to<bool>;
-    { row == row } -> std::convertible_to<bool>;
+    { row < other } -> std::convertible_to<bool>;
+    { row == other } -> std::convertible_to<bool>;
     requires std::same_as<decltype(Row::ref), RowRef>;
 };
 

@@ -44,7 +44,7 @@ RawChange rawChange(sqlite3_stmt* row) {
 
 void openAndScanRaw(benchmark::State& state) {
     const std::filesystem::path& file = largeStore();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         RawSqlite raw(file);
         sqlite3_stmt* rows = raw.prepare("SELECT row_key, id, date, minutes, note, kind,"
                                          " created_at, modified_at FROM change");
@@ -60,7 +60,7 @@ BENCHMARK(openAndScanRaw)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void openAndReadRows(benchmark::State& state) {
     const std::filesystem::path& file = largeStore();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto store = openStore(file);
         const auto loaded = LiveQuery<Change, ChangeRow>::readRows(*store);
         benchmark::DoNotOptimize(loaded.rows.data());
@@ -70,7 +70,7 @@ BENCHMARK(openAndReadRows)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void openAndFetchRecords(benchmark::State& state) {
     const std::filesystem::path& file = largeStore();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto store = openStore(file);
         const auto context = makeContext(*store);
         benchmark::DoNotOptimize(context->fetch<Change>().size());
@@ -80,7 +80,7 @@ BENCHMARK(openAndFetchRecords)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void openAndSumRaw(benchmark::State& state) {
     const std::filesystem::path& file = largeStore();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         RawSqlite raw(file);
         sqlite3_stmt* row = raw.prepare("SELECT sum(minutes) FROM change WHERE date <= 2e9");
         sqlite3_step(row);
@@ -92,7 +92,7 @@ BENCHMARK(openAndSumRaw)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void openAndSum(benchmark::State& state) {
     const std::filesystem::path& file = largeStore();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto store = openStore(file);
         const auto context = makeContext(*store);
         benchmark::DoNotOptimize(context->sum<Change, &ChangeValues::minutes>(
@@ -103,14 +103,14 @@ BENCHMARK(openAndSum)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void verifyWholeFile(benchmark::State& state) {
     const auto store = openStore(largeStore());
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         store->verify();
     }
 }
 BENCHMARK(verifyWholeFile)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void insertManyRaw(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         const Folder folder;
         {
@@ -132,7 +132,7 @@ void insertManyRaw(benchmark::State& state) {
 BENCHMARK(insertManyRaw)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void insertMany(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         const Folder folder;
         auto store = openStore(folder / "Store.sqlite");

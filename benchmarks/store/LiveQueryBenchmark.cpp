@@ -10,7 +10,7 @@ namespace {
 
 void moveRowsInMemory(benchmark::State& state) {
     std::vector<ChangeRow> rows(static_cast<std::size_t>(changeCount), ChangeRow{});
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         rows.insert(rows.begin(), ChangeRow{});
         rows.erase(rows.begin());
         benchmark::DoNotOptimize(rows.data());
@@ -23,7 +23,7 @@ void insertAndRollBackListed(benchmark::State& state) {
     const auto context = makeContext(*store);
     LiveQuery<Change, ChangeRow> query(*context);
     query.load();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         context->insert(std::make_unique<Change>(madeUp(changeCount)));
         context->rollback();
     }
@@ -41,7 +41,7 @@ void refreshHalf(benchmark::State& state) {
     const auto reader = makeContext(*store);
     LiveQuery<Change, ChangeRow> query(*reader);
     query.load();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         for (std::size_t i = 0; i < changes.size(); i += 2) {
             changes[i]->setMinutes(changes[i]->values().minutes + 1);

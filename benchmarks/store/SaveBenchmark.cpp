@@ -17,7 +17,7 @@ void appendAndSync(benchmark::State& state) {
     const int fd =
         ::open((folder / "log").c_str(), O_CREAT | O_WRONLY | O_APPEND | O_CLOEXEC, 0600);
     const std::array<char, 120> line{};
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         if (::write(fd, line.data(), line.size()) < 0 || ::fdatasync(fd) != 0) {
             state.SkipWithError("cannot write");
             break;
@@ -33,7 +33,7 @@ void saveRaw(benchmark::State& state) {
     raw.createTable();
     sqlite3_stmt* insert = raw.prepareInsert();
     std::int64_t number = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         RawSqlite::insert(insert, madeUp(number++));
     }
     sqlite3_finalize(insert);
@@ -51,7 +51,7 @@ void saveInsertion(benchmark::State& state) {
     const auto store = openCopy(folder);
     const auto context = makeContext(*store);
     std::int64_t number = changeCount;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         context->insert(std::make_unique<Change>(madeUp(number++)));
         context->save();
     }
@@ -63,7 +63,7 @@ void saveFieldChange(benchmark::State& state) {
     const auto store = openCopy(folder);
     const auto context = makeContext(*store);
     Change& change = *context->find<Change>(RowKey{changeCount / 2});
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         change.setMinutes(change.values().minutes + 1);
         context->save();
     }
@@ -73,7 +73,7 @@ BENCHMARK(saveFieldChange)->Unit(benchmark::kMicrosecond)->UseRealTime();
 void refreshWithoutNews(benchmark::State& state) {
     const auto store = openStore(largeStore());
     const auto context = makeContext(*store);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         context->refresh();
     }
 }
@@ -86,7 +86,7 @@ void refreshOneChange(benchmark::State& state) {
     const auto reader = makeContext(*store);
     Change& change = *writer->find<Change>(RowKey{changeCount / 2});
     (void)reader->find<Change>(RowKey{changeCount / 2});
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         change.setMinutes(change.values().minutes + 1);
         writer->save();

@@ -217,7 +217,8 @@ TEST_P(ContextTest, SavesOfSeveralContextsMeetFieldByField) {
     other->save();
     context_->save();
     other->refresh();
-    for (const Reminder* seen : {&reminder, &same, findTitle(*makeContext(), "shared")}) {
+    const auto third = makeContext();
+    for (const Reminder* seen : {&reminder, &same, findTitle(*third, "shared")}) {
         EXPECT_EQ(seen->values().minutes, 2);
         EXPECT_TRUE(seen->values().isDone);
     }

@@ -3,8 +3,8 @@
 
 #include "tests/Platform/store/StoreTest.h"
 
-#include <cstdlib>
 #include <iostream>
+#include <string>
 
 using namespace platform::store;
 using namespace platform::store::test;
@@ -14,12 +14,13 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::string prefix = argv[2];
+    const int count = std::stoi(argv[3]);
     const auto store =
         Store::open(testSchema(), {.file = argv[1], .busyTimeoutMilliseconds = 60000});
     const auto context = store->makeContext(environment());
     std::cout << "open" << std::endl;
     std::cin.get();
-    for (int i = 0; i < std::atoi(argv[3]); ++i) {
+    for (int i = 0; i < count; ++i) {
         const std::string title = prefix + std::to_string(i);
         addReminder(*context, title, 1);
         if (Reminder* shared = findTitle(*context, "shared")) {
