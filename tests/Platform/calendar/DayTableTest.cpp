@@ -60,7 +60,7 @@ struct Extent {
 };
 
 TEST(DayTable, holdsTheDaysOfItsRange) {
-    constexpr double infinity = std::numeric_limits<double>::infinity();
+    constexpr double unbounded = std::numeric_limits<double>::infinity();
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     const Extent extents[] = {
         {0, 0, 1},
@@ -70,10 +70,10 @@ TEST(DayTable, holdsTheDaysOfItsRange) {
         {1, 0, 0},
         {nan, 0, 0},
         {0, nan, 0},
-        {infinity, infinity, 1},
-        {1e300, infinity, 1},
-        {253402041599, infinity, 3},
-        {253402041600, infinity, 2},
+        {unbounded, unbounded, 1},
+        {1e300, unbounded, 1},
+        {253402041599, unbounded, 3},
+        {253402041600, unbounded, 2},
     };
     for (const auto& row : extents) {
         SCOPED_TRACE(row.first);

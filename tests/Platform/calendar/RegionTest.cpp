@@ -8,7 +8,7 @@
 namespace platform {
 namespace {
 
-struct Row {
+struct RegionRow {
     const char* name;
     const char* language; ///< its start, where newer data of ICU knows an English of the region
     int firstWeekday;
@@ -16,7 +16,7 @@ struct Row {
     const char* calendarSystem;
 };
 
-const Row regions[] = {
+const RegionRow regions[] = {
     {"de_DE.UTF-8", "en_DE", 2, false, "gregorian"},
     {"en_GB", "en_GB", 2, false, "gregorian"},
     {"en_US.UTF-8", "en_US", 1, true, "gregorian"},
