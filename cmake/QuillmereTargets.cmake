@@ -64,7 +64,10 @@ endfunction()
 function(quillmere_qml_module folder)
   cmake_parse_arguments(ARG "" "" "SOURCES;QML_FILES;SINGLETONS;RESOURCES;LINK" ${ARGN})
   set(target quillmere_${folder})
+  # Only for the module's own sources: the helper targets that Qt adds have nothing to read.
+  set(CMAKE_AUTOMOC OFF)
   qt_add_library(${target} STATIC)
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
   set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
   # Builds that nobody installs read QML at run time, which makes them much quicker to build.
   if(NOT QUILLMERE_COMPILE_QML)
@@ -76,6 +79,7 @@ function(quillmere_qml_module folder)
     RESOURCE_PREFIX /qt/qml
     OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/Quillmere/${folder}"
     IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
+    DEPENDENCIES QtQuick
     SOURCES ${ARG_SOURCES}
     QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES}
     RESOURCES ${ARG_RESOURCES})
