@@ -45,7 +45,6 @@ FocusScope {
         anchors.bottom: parent.bottom
         maximumWidth: width
         padding: root.contentPadding
-        focus: true
 
         ColumnLayout {
             id: form
