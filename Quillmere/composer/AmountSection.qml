@@ -47,7 +47,7 @@ ColumnLayout {
             unit: qsTr("hours")
             inputMethodHints: Qt.ImhFormattedNumbersOnly
             Accessible.name: qsTr("Amount in hours")
-            onTextEdited: root.model.hoursText = text
+            onTextChanged: root.model.hoursText = text
             Component.onCompleted: selectAll()
         }
 

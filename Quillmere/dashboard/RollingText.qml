@@ -6,7 +6,7 @@ import Quillmere.dashboard
 
 // A figure whose characters roll into place when it changes: upwards when its value grows, downwards
 // when it falls. Digits stand in cells of one width. Shrinks down to minimumScale to fit the width.
-// Silent for accessibility: what it belongs to has the name and the value.
+// Its characters are silent for accessibility: whoever shows it gives it a name and a value.
 Item {
     id: root
 
@@ -44,7 +44,6 @@ Item {
 
     implicitWidth: naturalWidth
     implicitHeight: metrics.height
-    Accessible.ignored: true
 
     onValueChanged: {
         root.direction = root.value < root.lastValue ? -1 : 1;
