@@ -19,6 +19,8 @@ T.Button {
     opacity: enabled ? 1 : Theme.disabledOpacity
     font: Theme.bodyMedium
 
+    Accessible.role: Accessible.Button
+    Accessible.name: root.text
     // Qt 6.4 has no click() and loses what assistive technology presses.
     Accessible.onPressAction: root.clicked()
     Keys.onReturnPressed: root.clicked()

@@ -19,6 +19,21 @@ bool isSameMonth(CivilDate a, CivilDate b) {
     return a.year == b.year && a.month == b.month;
 }
 
+QVariant emptyCell(int role) {
+    switch (role) {
+    case DatePickerModel::NumberRole:
+        return 0;
+    case DatePickerModel::SpokenRole:
+        return QString();
+    case DatePickerModel::SelectableRole:
+    case DatePickerModel::SelectedRole:
+    case DatePickerModel::TodayRole:
+        return false;
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 DatePickerModel::DatePickerModel(const platform::Clock& clock,
@@ -127,9 +142,7 @@ QVariant DatePickerModel::data(const QModelIndex& index, int role) const {
     if (const MonthGrid::Day* day = dayAt(index.row())) {
         return dayData(*day, role);
     }
-    return role == NumberRole   ? QVariant(0)
-           : role == SpokenRole ? QVariant(QString())
-                                : QVariant(false);
+    return emptyCell(role);
 }
 
 QVariant DatePickerModel::dayData(const MonthGrid::Day& day, int role) const {

@@ -59,9 +59,9 @@ Item {
             selectionColor: Theme.selection
             selectedTextColor: Theme.primary
             Accessible.role: Accessible.EditableText
-            KeyNavigation.priority: KeyNavigation.BeforeItem
-            KeyNavigation.tab: area.nextItemInFocusChain(true)
-            KeyNavigation.backtab: area.nextItemInFocusChain(false)
+            Keys.priority: Keys.BeforeItem
+            Keys.onTabPressed: area.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: area.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
             Text {
                 x: area.leftPadding

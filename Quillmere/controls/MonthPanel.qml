@@ -131,7 +131,7 @@ FocusScope {
 
                     width: root.cell
                     height: root.cell
-                    activeFocusOnTab: index === root.model.cursorRow
+                    activeFocusOnTab: activeFocus || index === root.model.cursorRow
                     onPressed: root.pick(index)
                 }
             }
