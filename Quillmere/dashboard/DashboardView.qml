@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Quillmere.theme
 import Quillmere.controls
@@ -17,8 +15,17 @@ FocusScope {
     objectName: "overview.screen"
     Accessible.role: Accessible.Pane
     Accessible.name: root.title
+    Keys.forwardTo: [scrollKeys]
+
+    ScrollKeys {
+        id: scrollKeys
+
+        page: page
+    }
 
     ScrollArea {
+        id: page
+
         anchors.fill: parent
         topPadding: Theme.spaceL
         // Room to scroll everything out from under the banner.

@@ -17,6 +17,15 @@ FocusScope {
 
     Accessible.role: Accessible.Dialog
     Accessible.name: root.title
+    Keys.forwardTo: [scrollKeys]
+    // The only thing to press.
+    Component.onCompleted: toolbar.nextItemInFocusChain().forceActiveFocus()
+
+    ScrollKeys {
+        id: scrollKeys
+
+        page: points
+    }
 
     SheetToolbar {
         id: toolbar

@@ -12,6 +12,7 @@ FocusScope {
     Loader {
         anchors.fill: parent
         focus: true
+        onLoaded: (item as Item).focus = true
         sourceComponent: {
             switch (root.model.content) {
             case OnboardingGateViewModel.Preparing:
