@@ -2,6 +2,7 @@
 accessibility bus on it, and an empty home."""
 import os
 import shutil
+import subprocess
 import tempfile
 from pathlib import Path
 
@@ -39,7 +40,7 @@ class Desktop:
             self.environment = self._make_environment()
             self._start_display()
             self.bus = self._start_bus()
-            self._processes.append(children.start(["openbox"], env=self.environment, **self._log()))
+            self._processes.append(self._start(["openbox"], env=self.environment))
             self.accessibility_bus = self._connect(self._accessibility_address())
             self._await_window_manager()
         except BaseException:
@@ -71,16 +72,16 @@ class Desktop:
             environment[name] = str(self.home / folder)
         return environment | self._extra
 
-    def _log(self):
-        log = open(self.home / "desktop.log", "ab")
-        return {"stdout": log, "stderr": log, "stdin": -3}
+    def _start(self, words, **options):
+        with open(self.home / "desktop.log", "ab") as log:
+            return children.start(words, stdin=subprocess.DEVNULL, stdout=log, stderr=log, **options)
 
     def _start_display(self):
         mine, theirs = os.pipe()
         width, height = self._size
         words = ["Xvfb", "-displayfd", str(theirs), "-screen", "0", f"{width}x{height}x24",
                  "-fbdir", str(self.home), "-nolisten", "tcp", "-noreset", "-dpi", "96"]
-        self._processes.append(children.start(words, pass_fds=[theirs], **self._log()))
+        self._processes.append(self._start(words, pass_fds=[theirs]))
         os.close(theirs)
         with os.fdopen(mine) as answer:
             number = answer.readline().strip()
@@ -92,8 +93,7 @@ class Desktop:
         mine, theirs = os.pipe()
         words = ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--print-address={theirs}",
                  f"--address=unix:dir={self.home / 'runtime'}"]
-        self._processes.append(
-            children.start(words, env=self.environment, pass_fds=[theirs], **self._log()))
+        self._processes.append(self._start(words, env=self.environment, pass_fds=[theirs]))
         os.close(theirs)
         with os.fdopen(mine) as answer:
             address = answer.readline().strip()
@@ -113,8 +113,6 @@ class Desktop:
 
     def _await_window_manager(self):
         def managed():
-            probe = children.start(["xdotool", "get_num_desktops"], env=self.environment,
-                                   **self._log())
-            return probe.wait() == 0
+            return self._start(["xdotool", "get_num_desktops"], env=self.environment).wait() == 0
 
         eventually(managed, "a window manager runs")

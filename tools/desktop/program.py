@@ -101,9 +101,11 @@ class Program:
 
     def geometry(self):
         """Left, top, width and height of the main window, in pixels."""
-        answer = self._xdotool("getwindowgeometry", "--shell", self.window())
-        values = dict(line.split("=") for line in answer.split())
-        return tuple(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+        answer = subprocess.run(["xwininfo", "-id", self.window()], env=self.desktop.environment,
+                                stdout=subprocess.PIPE, text=True, check=True, timeout=60).stdout
+        values = dict(line.strip().split(":", 1) for line in answer.splitlines() if ":" in line)
+        return tuple(int(values[key]) for key in (
+            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     def picture(self):
         """The main window once it has come to rest."""

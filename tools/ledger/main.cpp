@@ -54,7 +54,10 @@ void list(Context& context, Arguments) {
     const auto byDate =
         platform::store::Sort<BalanceAdjustment>{}.by<&BalanceAdjustmentValues::date>();
     for (const BalanceAdjustment* change : context.fetch<BalanceAdjustment>({}, byDate)) {
-        std::cout << change->minutes() << ' ' << change->note() << '\n';
+        // Records of no minutes are marks, not changes.
+        if (change->minutes() != 0) {
+            std::cout << change->minutes() << ' ' << change->note() << '\n';
+        }
     }
 }
 
