@@ -44,7 +44,7 @@ MarkerSearch::MarkerSearch(platform::store::Context& context)
 
 std::vector<BalanceAdjustment*> MarkerSearch::find() {
     const auto last = memory_.recall(context_.clock().now());
-    const auto markers = last ? amongKnownAndChanged(*last) : amongAll();
+    auto markers = last ? amongKnownAndChanged(*last) : amongAll();
     mark_.finding = keyList(markers);
     return markers;
 }
@@ -76,6 +76,7 @@ std::vector<BalanceAdjustment*> MarkerSearch::amongAll() {
         }
     });
     std::vector<BalanceAdjustment*> markers;
+    markers.reserve(keys.size());
     for (const RowKey key : keys) {
         markers.push_back(context_.find<BalanceAdjustment>(key));
     }

@@ -28,10 +28,11 @@ inline Calendar calendarIn(const char* zone) {
     return {platform::TimeZone::named(zone).value(), platform::Region::fromLocale("de_DE")};
 }
 
+inline const Calendar berlinCalendar = calendarIn("Europe/Berlin");
+
 /// Local time in Berlin, on days without a clock change.
 inline Instant berlin(int month, int dayOfMonth, double hours = 0, int year = 2026) {
-    return calendarIn("Europe/Berlin").startOfDay(CivilDate{year, month, dayOfMonth}).value() +
-           hours * hour;
+    return berlinCalendar.startOfDay(CivilDate{year, month, dayOfMonth}).value() + hours * hour;
 }
 
 /// A UUID that sorts by its number.
@@ -54,7 +55,7 @@ protected:
     }
 
     Instant now = berlin(3, 4, 12);
-    Calendar calendar = calendarIn("Europe/Berlin");
+    Calendar calendar = berlinCalendar;
     platform::ManualClock clock{now};
     platform::FixedCalendarSource calendars{calendar};
     std::shared_ptr<platform::store::Store> store =

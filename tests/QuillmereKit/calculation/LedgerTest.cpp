@@ -19,7 +19,7 @@ using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr auto least = std::numeric_limits<std::int64_t>::min();
+constexpr auto leastMinutes = std::numeric_limits<std::int64_t>::min();
 
 /// Changes as records in the order given, and as rows in theirs.
 class Ledger {
@@ -71,7 +71,6 @@ private:
     std::vector<LedgerRow> rows_;
 };
 
-const Calendar berlinCalendar = calendarIn("Europe/Berlin");
 const Instant noon = berlin(3, 4, 12);
 
 TEST(LedgerBalance, CountsWhatIsDatedUpToTheMoment) {
@@ -84,10 +83,13 @@ TEST(LedgerBalance, CountsWhatIsDatedUpToTheMoment) {
 }
 
 TEST(LedgerBalance, TakesAnyStoredAmount) {
-    const Ledger ledger{{berlin(3, 1), least}, {berlin(3, 2), least}, {berlin(3, 3), 1}};
+    const Ledger ledger{
+        {berlin(3, 1), leastMinutes}, {berlin(3, 2), leastMinutes}, {berlin(3, 3), 1}};
     const double each = 0x1p63 * 60;
-    EXPECT_EQ(TimeBankCalculator::ledgerBalanceSeconds(ledger.rows(), least, noon), -3 * each);
-    EXPECT_EQ(TimeBankCalculator::ledgerBalanceSeconds(ledger.records(), least, noon), -3 * each);
+    EXPECT_EQ(TimeBankCalculator::ledgerBalanceSeconds(ledger.rows(), leastMinutes, noon),
+              -3 * each);
+    EXPECT_EQ(TimeBankCalculator::ledgerBalanceSeconds(ledger.records(), leastMinutes, noon),
+              -3 * each);
     // 2^53 + 1 seconds do not fit a double: adding one minute at a time must round like the list.
     Ledger rounding{{berlin(3, 1), (std::int64_t{1} << 53) / 60}};
     for (int i = 0; i < 9; ++i) {

@@ -14,8 +14,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const Calendar calendar = calendarIn("Europe/Berlin");
-
 struct Worked {
     Instant start;
     std::optional<Instant> end;
@@ -36,7 +34,7 @@ std::vector<double> hoursWorked(const std::vector<Worked>& worked, Instant throu
     values.calculationStartDate = berlin(3, 2, 15);
     std::vector<double> hours;
     for (const DayBalance& dayBalance : TimeBankCalculator::dayBalances(
-             entries, {}, {}, TimeBankSettings(values), through, calendar)) {
+             entries, {}, {}, TimeBankSettings(values), through, berlinCalendar)) {
         hours.push_back(dayBalance.workedSeconds / hour);
     }
     return hours;
@@ -100,7 +98,7 @@ protected:
     }
 
     [[nodiscard]] std::int64_t scheduled(Instant on) const {
-        return TimeBankCalculator::scheduledMinutes(on, settings, schedules, calendar);
+        return TimeBankCalculator::scheduledMinutes(on, settings, schedules, berlinCalendar);
     }
 
     std::vector<WorkSchedule*> schedules;
@@ -143,10 +141,10 @@ TEST_F(ScheduleTest, TheTrackedBalanceIsWorkAndChangesAgainstThePlan) {
     const std::vector entries{&entry};
     const std::vector changes{&outside, &change};
     const double seconds = TimeBankCalculator::balanceSeconds(entries, changes, schedules, settings,
-                                                              berlin(3, 1, 12), calendar);
+                                                              berlin(3, 1, 12), berlinCalendar);
     EXPECT_EQ(seconds / 60, 10 + (240 - 480) + (30 - 60) - 60);
     EXPECT_EQ(TimeBankCalculator::balanceSeconds(entries, changes, schedules, settings,
-                                                 berlin(2, 26), calendar),
+                                                 berlin(2, 26), berlinCalendar),
               600);
 }
 
@@ -166,11 +164,12 @@ TEST(WorkedSeconds, SharesTheBreakOut) {
 
 TEST(TimeBankDateBounds, KeepTheStartBetween2000AndToday) {
     const Instant earliest = berlin(1, 1, 0, 2000);
-    EXPECT_EQ(TimeBankDateBounds::earliestCalculationDate(calendar), earliest);
+    EXPECT_EQ(TimeBankDateBounds::earliestCalculationDate(berlinCalendar), earliest);
     EXPECT_EQ(TimeBankDateBounds::earliestCalculationDate(calendarIn("Pacific/Kiritimati")),
               Instant{946684800 - 14 * hour});
     const auto start = [](Instant date) {
-        return TimeBankDateBounds::normalizedCalculationStartDate(date, berlin(3, 4, 12), calendar);
+        return TimeBankDateBounds::normalizedCalculationStartDate(date, berlin(3, 4, 12),
+                                                                  berlinCalendar);
     };
     EXPECT_EQ(start(berlin(6, 1, 0, 1995)), earliest);
     EXPECT_EQ(start(berlin(3, 2, 15)), berlin(3, 2));

@@ -18,13 +18,13 @@ protected:
     void repair(Instant at) { DataStoreMaintenance::reconcileActivity(*context, at, true); }
     void repair() { repair(now); }
 
-    BalanceAdjustmentValues repaired(BalanceAdjustmentValues values) {
+    BalanceAdjustmentValues repaired(const BalanceAdjustmentValues& values) {
         const auto& record = context->insert(std::make_unique<BalanceAdjustment>(values));
         repair();
         return record.values();
     }
 
-    WorkEntryValues repaired(WorkEntryValues values) {
+    WorkEntryValues repaired(const WorkEntryValues& values) {
         const auto& record = context->insert(std::make_unique<WorkEntry>(values));
         repair();
         return record.values();

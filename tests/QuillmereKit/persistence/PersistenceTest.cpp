@@ -70,7 +70,7 @@ protected:
         root = mkdtemp(name.data());
         locations = {root / "default", root / "shared"};
     }
-    ~ContainerTest() override { std::filesystem::remove_all(root); }
+    void TearDown() override { std::filesystem::remove_all(root); }
 
     std::filesystem::path root;
     StoreLocations locations;
@@ -92,8 +92,8 @@ TEST_F(ContainerTest, LiesInTheSharedContainerOrTheDefaultFolder) {
 }
 
 template <class R>
-void expectRoundTrip(StoreLocations locations, platform::store::ContextEnvironment environment,
-                     std::unique_ptr<R> record) {
+void expectRoundTrip(const StoreLocations& locations,
+                     platform::store::ContextEnvironment environment, std::unique_ptr<R> record) {
     const auto values = record->values();
     const auto open = [&] {
         return QuillmerePersistence::makeContainer(false, false, false, locations)

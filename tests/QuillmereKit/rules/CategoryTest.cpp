@@ -14,7 +14,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using enum BalanceAdjustmentKind;
 
 std::string repeated(std::string_view text, int times) {
     std::string result;
@@ -60,6 +59,7 @@ TEST(AdjustmentKindConfiguration, ReadsAndWritesTheConfigurableKinds) {
             row.rewritten)
             << row.given;
     }
+    using enum BalanceAdjustmentKind;
     EXPECT_EQ(AdjustmentKindConfiguration::rawValue({manual, holiday, longLunch}), "longLunch");
 }
 
