@@ -11,12 +11,15 @@ AppRootContainer {
     required property MainSceneModel scene
     required property ApplicationCommands commands
 
+    focus: true
+
     OnboardingGate {
         anchors.fill: parent
         focus: true
         model: root.scene.gate
         content: Component {
             MacRootView {
+                focus: true
                 model: root.scene.root
                 commands: root.commands
             }

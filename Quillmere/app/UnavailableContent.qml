@@ -10,6 +10,8 @@ FocusScope {
     required property MainWindowModel model
     required property ApplicationCommands commands
 
+    focus: true
+
     ApplicationMenuButton {
         anchors.right: parent.right
         anchors.top: parent.top

@@ -71,13 +71,13 @@ IconButton {
         }
 
         ApplicationMenuItem {
-            text: qsTr("Close window")
+            text: qsTr("Close")
             shortcutText: "Ctrl+W"
             onTriggered: root.commands.closeRequested()
         }
 
         ApplicationMenuItem {
-            text: qsTr("Quit Quillmere")
+            text: qsTr("Quit")
             shortcutText: "Ctrl+Q"
             onTriggered: root.commands.quitRequested()
         }

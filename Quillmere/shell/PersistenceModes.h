@@ -5,25 +5,23 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-namespace quillmere {
+/// `PersistenceMode` as QML sees it (`PersistenceMode.LocalOnly`): names of enumerators that QML can
+/// reach begin with a capital. The numbers are the same.
+namespace quillmere::PersistenceModes {
 
-/// `PersistenceMode` as QML sees it (`PersistenceMode.LocalOnly`): names of enumerators that QML
-/// can reach begin with a capital. The numbers are the same.
-class PersistenceModes {
-    Q_GADGET
-    QML_NAMED_ELEMENT(PersistenceMode)
-    QML_UNCREATABLE("names values only")
+Q_NAMESPACE
+QML_NAMED_ELEMENT(PersistenceMode)
 
-public:
-    enum class Mode {
-        ICloud = static_cast<int>(PersistenceMode::iCloud),
-        LocalOnly = static_cast<int>(PersistenceMode::localOnly),
-        Temporary = static_cast<int>(PersistenceMode::temporary),
-        Unavailable = static_cast<int>(PersistenceMode::unavailable),
-    };
-    Q_ENUM(Mode)
-
-    [[nodiscard]] static Mode of(PersistenceMode mode) { return static_cast<Mode>(mode); }
+enum class Mode {
+    ICloud = static_cast<int>(PersistenceMode::iCloud),
+    LocalOnly = static_cast<int>(PersistenceMode::localOnly),
+    Temporary = static_cast<int>(PersistenceMode::temporary),
+    Unavailable = static_cast<int>(PersistenceMode::unavailable),
 };
+Q_ENUM_NS(Mode)
 
-} // namespace quillmere
+[[nodiscard]] inline Mode of(PersistenceMode mode) {
+    return static_cast<Mode>(mode);
+}
+
+} // namespace quillmere::PersistenceModes

@@ -14,14 +14,14 @@ public:
 };
 
 TEST(AppearanceModelTest, TheUsersChoiceGoesBeforeTheDesktops) {
-    struct Row {
+    struct ChoiceRow {
         const char* stored;
         bool desktopDark;
         bool dark;
     };
-    for (const Row row :
-         {Row{"system", true, true}, Row{"system", false, false}, Row{"light", true, false},
-          Row{"dark", false, true}, Row{"sepia", true, true}}) {
+    for (const ChoiceRow row : {ChoiceRow{"system", true, true}, ChoiceRow{"system", false, false},
+                                ChoiceRow{"light", true, false}, ChoiceRow{"dark", false, true},
+                                ChoiceRow{"sepia", true, true}}) {
         SCOPED_TRACE(std::string(row.stored) + (row.desktopDark ? " on dark" : " on light"));
         platform::MemoryPreferences preferences;
         preferences.setString("appearance", row.stored);
@@ -33,32 +33,32 @@ TEST(AppearanceModelTest, TheUsersChoiceGoesBeforeTheDesktops) {
 
 TEST(DesktopLookTest, ReadsWhatThePortalSays) {
     const QString freedesktop = QStringLiteral("org.freedesktop.appearance");
-    struct Row {
+    struct PortalRow {
         QString space;
         const char* key;
         QVariant value;
         DesktopLook look;
     };
-    const std::vector<Row> rows{
+    const std::vector<PortalRow> rows{
         {freedesktop, "color-scheme", 1U, {.prefersDark = true}},
         {freedesktop, "color-scheme", 2U, {.prefersDark = false}},
         {freedesktop, "color-scheme", 0U, {}},
         {freedesktop, "color-scheme", 7U, {}},
-        {freedesktop, "contrast", 1U, {.highContrast = true}},
-        {freedesktop, "reduced-motion", 1U, {.reducedMotion = true}},
+        {freedesktop, "contrast", 1U, {.prefersDark = {}, .highContrast = true}},
+        {freedesktop, "reduced-motion", 1U, {.prefersDark = {}, .reducedMotion = true}},
         {freedesktop, "accent-color", 1U, {}},
         {QStringLiteral("org.gnome.desktop.interface"),
          "enable-animations",
          false,
-         {.reducedMotion = true}},
+         {.prefersDark = {}, .reducedMotion = true}},
         {QStringLiteral("org.gnome.desktop.interface"), "enable-animations", true, {}},
         {QStringLiteral("org.gnome.desktop.a11y.interface"),
          "high-contrast",
          true,
-         {.highContrast = true}},
+         {.prefersDark = {}, .highContrast = true}},
         {QStringLiteral("org.example"), "color-scheme", 1U, {}},
     };
-    for (const Row& row : rows) {
+    for (const PortalRow& row : rows) {
         SCOPED_TRACE(row.space.toStdString() + " " + row.key);
         DesktopLook look;
         look.take(row.space, QString::fromUtf8(row.key), row.value);
@@ -67,13 +67,13 @@ TEST(DesktopLookTest, ReadsWhatThePortalSays) {
 }
 
 TEST(QuillmereMacAppDelegateTest, TheLastWindowEndsTheProgramUnlessThereIsATrayToComeBackFrom) {
-    struct Row {
+    struct CloseRow {
         std::optional<bool> closesToTray;
         bool trayHost;
         bool terminates;
     };
-    for (const Row row : {Row{{}, true, true}, Row{false, true, true}, Row{true, true, false},
-                          Row{true, false, true}}) {
+    for (const CloseRow row : {CloseRow{{}, true, true}, CloseRow{false, true, true},
+                               CloseRow{true, true, false}, CloseRow{true, false, true}}) {
         platform::MemoryPreferences preferences;
         if (row.closesToTray) {
             preferences.setBoolean("closeWindowToMenuBar", *row.closesToTray);

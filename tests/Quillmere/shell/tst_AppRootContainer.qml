@@ -9,6 +9,7 @@ TestCase {
 
     name: "AppRootContainer"
     when: windowShown
+    visible: true
     width: 780
     height: 560
 
@@ -34,7 +35,7 @@ TestCase {
     function findText(item, text) {
         if (item.visible && item.text === text)
             return item;
-        for (const child of item.children) {
+        for (const child of Array.from(item.children)) {
             const found = findText(child, text);
             if (found !== null)
                 return found;

@@ -8,6 +8,7 @@ TestCase {
 
     name: "MacRootView"
     when: windowShown
+    visible: true
     width: 780
     height: 560
 
@@ -58,7 +59,7 @@ TestCase {
     function heading(item) {
         if (item.Accessible.role === Accessible.Heading)
             return item.text;
-        for (const child of item.children) {
+        for (const child of Array.from(item.children)) {
             const found = heading(child);
             if (found)
                 return found;

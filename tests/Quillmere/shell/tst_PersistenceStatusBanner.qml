@@ -8,6 +8,7 @@ TestCase {
 
     name: "PersistenceStatusBanner"
     when: windowShown
+    visible: true
     width: 780
     height: 200
 

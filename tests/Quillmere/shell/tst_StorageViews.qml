@@ -7,6 +7,7 @@ TestCase {
 
     name: "StorageViews"
     when: windowShown
+    visible: true
     width: 780
     height: 560
 
@@ -36,7 +37,7 @@ TestCase {
         let found = [];
         if (item.visible && item.text)
             found.push(item.text);
-        for (const child of item.children)
+        for (const child of Array.from(item.children))
             found = found.concat(texts(child));
         return found.filter((text, i) => found.indexOf(text) === i);
     }
@@ -44,7 +45,7 @@ TestCase {
     function named(item, name) {
         if (item.visible && item.Accessible.name === name && item.activeFocusOnTab)
             return item;
-        for (const child of item.children) {
+        for (const child of Array.from(item.children)) {
             const found = named(child, name);
             if (found !== null)
                 return found;
