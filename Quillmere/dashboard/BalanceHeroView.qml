@@ -62,6 +62,10 @@ SoftCard {
             }
 
             TrendRangeMenu {
+                id: rangeMenu
+
+                // Its text, not its ground, ends where the card's content ends.
+                Layout.rightMargin: -rangeMenu.rightPadding
                 titles: root.trendRangeTitles
                 currentIndex: root.trendRangeIndex
                 onChosen: index => root.trendRangeChosen(index)

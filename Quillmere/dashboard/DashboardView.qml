@@ -27,6 +27,7 @@ FocusScope {
         id: page
 
         anchors.fill: parent
+        padding: 20
         topPadding: Theme.spaceL
         // Room to scroll everything out from under the banner.
         bottomPadding: banner.visible ? banner.height + 2 * Theme.spaceL : Theme.spaceXL

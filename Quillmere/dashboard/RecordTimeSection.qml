@@ -7,6 +7,9 @@ import Quillmere.controls
 ColumnLayout {
     id: root
 
+    // As much as leaves the longer subtitle its room in the smallest window.
+    readonly property int cardPadding: 16
+
     signal addChosen()
     signal takeChosen()
     signal guideChosen()
@@ -22,7 +25,10 @@ ColumnLayout {
         }
 
         IconButton {
+            id: guide
+
             objectName: "overview.guide"
+            Layout.rightMargin: (guide.symbolSize - guide.width) / 2
             text: qsTr("How Quillmere works")
             symbol: "info.circle"
             onClicked: root.guideChosen()
@@ -31,12 +37,14 @@ ColumnLayout {
 
     RowLayout {
         Layout.fillWidth: true
-        spacing: 14
+        spacing: Theme.spaceM
 
         CardButton {
             objectName: "transaction.action.add"
             Layout.fillWidth: true
             Layout.preferredWidth: 1
+            leftPadding: root.cardPadding
+            rightPadding: root.cardPadding
             text: qsTr("Add time")
             subtitle: qsTr("Worked extra")
             symbol: "plus"
@@ -49,6 +57,8 @@ ColumnLayout {
             objectName: "transaction.action.take"
             Layout.fillWidth: true
             Layout.preferredWidth: 1
+            leftPadding: root.cardPadding
+            rightPadding: root.cardPadding
             text: qsTr("Take flex time")
             subtitle: qsTr("Use time from your bank")
             symbol: "minus"

@@ -19,7 +19,7 @@ FocusScope {
     Accessible.name: root.title
     Keys.forwardTo: [scrollKeys]
     // The only thing to press.
-    Component.onCompleted: toolbar.nextItemInFocusChain().forceActiveFocus()
+    Component.onCompleted: toolbar.nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
 
     ScrollKeys {
         id: scrollKeys

@@ -15,6 +15,8 @@ FocusScope {
     objectName: "onboarding.screen"
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Welcome to Quillmere")
+    // The one thing to do here, and the keyboard shows it.
+    Component.onCompleted: primaryAction.forceActiveFocus(Qt.TabFocusReason)
 
     ScrollArea {
         anchors.fill: parent
@@ -89,11 +91,12 @@ FocusScope {
                 }
 
                 ProminentButton {
+                    id: primaryAction
+
                     objectName: "onboarding.primaryAction"
                     Layout.alignment: Qt.AlignHCenter
                     Layout.fillWidth: true
                     Layout.maximumWidth: 380
-                    focus: true
                     text: qsTr("Open my time bank")
                     onClicked: root.model.complete()
                 }
