@@ -69,16 +69,21 @@ ColumnLayout {
         message: root.model.validationMessage
     }
 
-    RowLayout {
+    Flow {
+        Layout.fillWidth: true
         Layout.topMargin: 2
         spacing: Theme.spaceS
 
         FieldLabel {
-            Layout.rightMargin: Theme.spaceXS
+            height: presets.count > 0 ? presets.itemAt(0).height : implicitHeight
+            rightPadding: Theme.spaceXS
+            verticalAlignment: Text.AlignVCenter
             text: qsTr("Quick amount")
         }
 
         Repeater {
+            id: presets
+
             model: root.model.presetHours
 
             BorderedButton {

@@ -94,8 +94,10 @@ FocusScope {
                 model: root.model
             }
 
+            // Keeps the button at the bottom, without room of its own.
             Item {
                 Layout.fillHeight: true
+                Layout.topMargin: -form.spacing
             }
 
             ProminentButton {

@@ -13,6 +13,8 @@ T.Popup {
     property string message: ""
     property string buttonText: qsTr("OK")
 
+    readonly property FocusKeeper keeper: FocusKeeper {}
+
     signal dismissed()
 
     parent: T.Overlay.overlay
@@ -28,7 +30,11 @@ T.Popup {
     dim: true
     closePolicy: T.Popup.CloseOnEscape
     onOpened: button.forceActiveFocus(Qt.TabFocusReason)
-    onClosed: root.dismissed()
+    onAboutToShow: root.keeper.take(root.parent.Window.activeFocusItem)
+    onClosed: {
+        root.keeper.giveBack(root.parent.Window.activeFocusItem);
+        root.dismissed();
+    }
 
     T.Overlay.modal: Rectangle {
         color: Theme.scrim
@@ -51,7 +57,8 @@ T.Popup {
         shadowOffset: 14
     }
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        width: parent.width
         spacing: Theme.spaceS
         Accessible.role: Accessible.AlertMessage
         Accessible.name: root.title

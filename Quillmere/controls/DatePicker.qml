@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Layouts
 import QtQuick.Templates as T
 import Quillmere.controls
 import Quillmere.theme
@@ -33,17 +34,11 @@ ButtonBase {
         Behavior on color { FadeMotion {} }
     }
 
-    contentItem: Item {
-        implicitWidth: label.implicitWidth + icon.width + Theme.spaceS
-        implicitHeight: label.implicitHeight
+    contentItem: RowLayout {
+        spacing: Theme.spaceS
 
         Text {
-            id: label
-
-            anchors.left: parent.left
-            anchors.right: icon.left
-            anchors.rightMargin: Theme.spaceS
-            anchors.verticalCenter: parent.verticalCenter
+            Layout.fillWidth: true
             text: root.text
             textFormat: Text.PlainText
             font: root.font
@@ -53,10 +48,6 @@ ButtonBase {
         }
 
         Symbol {
-            id: icon
-
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
             name: "calendar"
             size: 14
             color: Theme.secondary

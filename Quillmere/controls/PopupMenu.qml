@@ -7,6 +7,10 @@ import Quillmere.theme
 T.Menu {
     id: root
 
+    readonly property FocusKeeper keeper: FocusKeeper {}
+    // The width of the widest item.
+    property real widest: 0
+
     implicitWidth: Math.max(160, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
     padding: 5
@@ -33,10 +37,9 @@ T.Menu {
         T.ScrollBar.vertical: ThinScrollBar {}
     }
 
-    // The width of the widest item.
-    property real widest: 0
-
+    onClosed: root.keeper.giveBack(root.parent.Window.activeFocusItem)
     onAboutToShow: {
+        root.keeper.take(root.parent.Window.activeFocusItem);
         let width = 0;
         for (let i = 0; i < count; ++i)
             width = Math.max(width, itemAt(i).implicitWidth);

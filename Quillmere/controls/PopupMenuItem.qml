@@ -9,8 +9,8 @@ T.MenuItem {
 
     property string symbol: ""
 
-    implicitWidth: line.implicitWidth + leftPadding + rightPadding
-    implicitHeight: Math.max(32, line.implicitHeight + topPadding + bottomPadding)
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: Math.max(32, implicitContentHeight + topPadding + bottomPadding)
     topPadding: 5
     bottomPadding: 5
     leftPadding: 10
@@ -27,8 +27,6 @@ T.MenuItem {
     }
 
     contentItem: MenuLine {
-        id: line
-
         text: root.text
         symbol: root.symbol
         checked: root.checked

@@ -8,6 +8,8 @@ import Quillmere.theme
 T.Popup {
     id: root
 
+    readonly property FocusKeeper keeper: FocusKeeper {}
+
     parent: T.Overlay.overlay
     x: Math.round((parent.width - width) / 2)
     y: Math.round((parent.height - height) / 2)
@@ -19,6 +21,9 @@ T.Popup {
     focus: true
     dim: true
     closePolicy: T.Popup.CloseOnEscape
+
+    onAboutToShow: root.keeper.take(root.parent.Window.activeFocusItem)
+    onClosed: root.keeper.giveBack(root.parent.Window.activeFocusItem)
 
     T.Overlay.modal: Rectangle {
         color: Theme.scrim

@@ -23,7 +23,7 @@ QtObject {
     readonly property color primary: dark ? Qt.rgba(0.95, 0.96, 0.955, 1) : Qt.rgba(0.10, 0.11, 0.105, 1)
     readonly property color secondary: dark ? Qt.rgba(1, 1, 1, highContrast ? 0.84 : 0.64)
                                             : Qt.rgba(0, 0, 0, highContrast ? 0.78 : 0.60)
-    readonly property color placeholder: dark ? Qt.rgba(1, 1, 1, highContrast ? 0.84 : 0.58)
+    readonly property color placeholder: dark ? Qt.rgba(1, 1, 1, highContrast ? 0.84 : 0.62)
                                               : Qt.rgba(0, 0, 0, highContrast ? 0.78 : 0.56)
     readonly property color accentText: dark || highContrast ? readable(deepAccent) : deepAccent
     readonly property color alertText: highContrast ? readable(alert) : alert
@@ -50,7 +50,7 @@ QtObject {
     readonly property color shadow: Qt.rgba(0, 0, 0, dark ? 0.16 : 0.04)
     readonly property color deepShadow: Qt.rgba(0, 0, 0, dark ? 0.50 : 0.18)
     readonly property color prominent: dark ? Qt.rgba(0.10, 0.50, 0.405, 1) : deepAccent
-    readonly property color prominentHover: dark ? Qt.rgba(0.11, 0.525, 0.425, 1) : Qt.rgba(0.09, 0.46, 0.375, 1)
+    readonly property color prominentHover: dark ? Qt.rgba(0.105, 0.515, 0.415, 1) : Qt.rgba(0.09, 0.46, 0.375, 1)
     readonly property color prominentPressed: dark ? Qt.rgba(0.085, 0.44, 0.355, 1) : Qt.rgba(0.06, 0.35, 0.285, 1)
     readonly property color selection: tinted(accent, dark ? 0.45 : 0.35)
     readonly property color focus: highContrast ? primary : dark ? accent : readable3(accent)
