@@ -81,8 +81,9 @@ class Accessible:
 
     @property
     def text(self):
+        """What is in a field; Qt tells a new line as a new paragraph."""
         arguments = GLib.Variant("(ii)", (0, -1))
-        return self._call(PREFIX + "Text", "GetText", arguments)[0]
+        return self._call(PREFIX + "Text", "GetText", arguments)[0].replace("\u2029", "\n")
 
     @property
     def selection(self):

@@ -2,9 +2,9 @@
 //
 //     ledger FILE list                        every change, oldest first: minutes and note
 //     ledger FILE add MINUTES [NOTE [DAYS]]   records a change dated now, or that many days ago
-//     ledger FILE fill COUNT                  sets the store up and adds that many changes of past years
-//     ledger FILE balance                     the balance as the program shows it
-//     ledger FILE check                       checks that the file is whole
+//     ledger FILE fill COUNT                  sets the store up and adds that many changes of past
+//     years ledger FILE balance                     the balance as the program shows it ledger FILE
+//     check                       checks that the file is whole
 //
 // End-to-end tests are another process of the system with it, and benchmarks make their stores.
 
@@ -116,8 +116,8 @@ const std::map<std::string_view, Command> commands = {{"list", {0, list}},
 int run(Arguments arguments) {
     const auto command = arguments.size() < 2 ? commands.end() : commands.find(arguments[1]);
     if (command == commands.end() || arguments.size() - 2 < command->second.fewestArguments) {
-        std::cerr
-            << "usage: ledger FILE list | add MINUTES [NOTE [DAYS]] | fill COUNT | balance | check\n";
+        std::cerr << "usage: ledger FILE list | add MINUTES [NOTE [DAYS]] | fill COUNT | balance | "
+                     "check\n";
         return 2;
     }
     const platform::SystemClock clock;
