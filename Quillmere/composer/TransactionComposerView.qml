@@ -94,19 +94,24 @@ FocusScope {
                 model: root.model
             }
 
-            // Keeps the button at the bottom, without room of its own.
+            // What room is left stands above the button.
             Item {
-                Layout.fillHeight: true
-                Layout.topMargin: -form.spacing
-            }
-
-            ProminentButton {
-                objectName: "transaction.save"
                 Layout.fillWidth: true
-                text: root.model.saveTitle
-                symbol: root.model.systemImage
-                enabled: root.model.canSave
-                onClicked: root.model.save()
+                Layout.fillHeight: true
+                implicitHeight: save.implicitHeight
+
+                ProminentButton {
+                    id: save
+
+                    objectName: "transaction.save"
+                    anchors.left: parent.left
+                    anchors.right: parent.right
+                    anchors.bottom: parent.bottom
+                    text: root.model.saveTitle
+                    symbol: root.model.systemImage
+                    enabled: root.model.canSave
+                    onClicked: root.model.save()
+                }
             }
         }
     }

@@ -18,7 +18,10 @@ QtObject {
         const opener = root.opener;
         root.opener = null;
         const taken = focused !== null && focused.parent !== null && focused !== opener;
-        if (opener && opener.visible && opener.enabled && !taken)
-            opener.forceActiveFocus(root.ringShown ? Qt.TabFocusReason : Qt.PopupFocusReason);
+        if (!opener || !opener.visible || !opener.enabled || taken)
+            return;
+        opener.forceActiveFocus(Qt.PopupFocusReason);
+        if (root.ringShown)
+            opener["focusReason"] = Qt.TabFocusReason;
     }
 }
