@@ -1,10 +1,12 @@
 import QtQuick
+import QtQuick.Templates as T
 import Quillmere.app
 import Quillmere.controls
 import Quillmere.shell
 import Quillmere.theme
 
-Window {
+// An ApplicationWindow, because that gives the focus back when a sheet or an alert closes.
+T.ApplicationWindow {
     id: root
 
     required property MainWindowModel model
@@ -36,6 +38,7 @@ Window {
     minimumWidth: model.content === MainWindowModel.Scene ? 780 : 620
     minimumHeight: model.content === MainWindowModel.Scene ? 560 : 440
     color: Theme.window
+    background: AppBackground {}
     visible: true
     Component.onCompleted: showContent()
 
@@ -63,10 +66,6 @@ Window {
         function onContentChanged() {
             root.showContent();
         }
-    }
-
-    AppBackground {
-        anchors.fill: parent
     }
 
     ApplicationCommands {

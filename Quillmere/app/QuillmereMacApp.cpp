@@ -78,6 +78,7 @@ void QuillmereMacApp::raise(const QString& token) {
     window->show();
     window->raise();
     window->requestActivate();
+    qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
 void QuillmereMacApp::onLastWindowClosed() {

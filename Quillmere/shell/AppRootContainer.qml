@@ -1,5 +1,6 @@
 import QtQuick
 import Quillmere.shell
+import Quillmere.theme
 
 // What surrounds the content of every window on an open store: the status banner above it, and the
 // alert over it.
@@ -9,6 +10,12 @@ FocusScope {
     required property AppState appState
     required property AppStorageController storage
     default property alias content: slot.data
+
+    // Keeps the window's glow from tinting the banner.
+    Rectangle {
+        anchors.fill: banner
+        color: Theme.window
+    }
 
     Loader {
         id: banner
