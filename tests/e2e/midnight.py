@@ -20,6 +20,12 @@ def zone_near_midnight():
     return f"<NEAR>{sign}{seconds // 3600:02}:{seconds // 60 % 60:02}:{seconds % 60:02}"
 
 
+def zone_at_hour(hour):
+    """A zone in which it is that hour of the day now. Names of these zones have the sign reversed."""
+    ahead = (hour - time.gmtime().tm_hour) % 24
+    return f"Etc/GMT-{ahead}" if ahead <= 14 else f"Etc/GMT+{24 - ahead}"
+
+
 class NewDay(Story):
     def await_new_day(self, program):
         program.await_true(lambda: program.change_today() == "plus 0 hours, 0 minutes",
@@ -39,13 +45,14 @@ class NewDay(Story):
         shutil.copytree("/etc", settings, symlinks=True,
                         ignore=lambda folder, names: {"ssl", "auth.conf.d"} & set(names))
         self.assertTrue(private_mounts.mount("--bind", settings, "/etc"))
-        self.set_zone("Etc/GMT+12")
+        self.set_zone(zone_at_hour(22))
         del self.desktop.environment["TZ"]
-        program = self.start_on_dashboard()
-        program.add("1.5")
-        program.await_true(lambda: program.change_today() == "plus 1 hours, 30 minutes", "it is today")
-        # 26 hours ahead of the first zone, so the day is another one at any time.
-        self.set_zone("Etc/GMT-14")
+        self.quit(self.start_on_dashboard())
+        self.ledger("add", 90, "This morning", 0.5)
+        program = self.start()
+        program.await_balance("plus 1 hours, 30 minutes")
+        self.assertEqual(program.change_today(), "plus 1 hours, 30 minutes")
+        self.set_zone(zone_at_hour(2))
         self.await_new_day(program)
 
     def set_zone(self, name):

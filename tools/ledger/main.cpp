@@ -41,8 +41,9 @@ constexpr double filledDays = 2000;
 constexpr std::array<std::string_view, 5> filledNotes = {"Release evening", "Dentist", "Left early",
                                                          "Customer call from home", ""};
 
-std::int64_t number(std::string_view text) {
-    std::int64_t value = 0;
+template <typename Number>
+Number number(std::string_view text) {
+    Number value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size()) {
         throw std::invalid_argument("not a number: " + std::string(text));
@@ -62,9 +63,9 @@ void list(Context& context, Arguments) {
 }
 
 void add(Context& context, Arguments arguments) {
-    const std::int64_t daysAgo = arguments.size() > 2 ? number(arguments[2]) : 0;
+    const double daysAgo = arguments.size() > 2 ? number<double>(arguments[2]) : 0;
     TimeBankTransactionController::record(
-        number(arguments[0]), context.clock().now() - secondsPerDay * static_cast<double>(daysAgo),
+        number<std::int64_t>(arguments[0]), context.clock().now() - secondsPerDay * daysAgo,
         arguments.size() > 1 ? arguments[1] : "", "manual", context);
 }
 
@@ -72,7 +73,7 @@ void add(Context& context, Arguments arguments) {
 void fill(Context& context, Arguments arguments) {
     TimeBankSettings& settings = StorePreparation::prepare(context);
     StorePreparation::completeOnboarding(context, settings);
-    const std::int64_t count = number(arguments[0]);
+    const std::int64_t count = number<std::int64_t>(arguments[0]);
     const double now = context.clock().now().secondsSince1970;
     const double step = filledDays * secondsPerDay / static_cast<double>(count);
     for (std::int64_t i = 0; i < count; ++i) {
