@@ -58,11 +58,12 @@ function(quillmere_test target)
 endfunction()
 
 # quillmere_qml_module(<folder> [SOURCES <files>] [QML_FILES <files>] [SINGLETONS <files>]
-#                      [RESOURCES <files>] [LINK <targets>])
+#                      [RESOURCES <files>] [DEPENDS <modules>] [LINK <targets>])
 # The QML module Quillmere.<folder> of the folder Quillmere/<folder>: static library
 # quillmere_<folder>, whose plugin every program that shows it links as well (quillmere_link_qml).
+# DEPENDS names the QML modules whose C++ types are properties of this one's.
 function(quillmere_qml_module folder)
-  cmake_parse_arguments(ARG "" "" "SOURCES;QML_FILES;SINGLETONS;RESOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;QML_FILES;SINGLETONS;RESOURCES;DEPENDS;LINK" ${ARGN})
   set(target quillmere_${folder})
   # Only for the module's own sources: the helper targets that Qt adds have nothing to read.
   set(CMAKE_AUTOMOC OFF)
@@ -79,7 +80,7 @@ function(quillmere_qml_module folder)
     RESOURCE_PREFIX /qt/qml
     OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/Quillmere/${folder}"
     IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
-    DEPENDENCIES QtQuick
+    DEPENDENCIES QtQuick ${ARG_DEPENDS}
     SOURCES ${ARG_SOURCES}
     QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES}
     RESOURCES ${ARG_RESOURCES})

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 
 // Remembers who has the keyboard while a popup takes it, and gives it back with the ring it had.
 QtObject {
@@ -9,7 +10,8 @@ QtObject {
 
     function take(focused: Item): void {
         root.opener = focused;
-        root.ringShown = focused !== null && focused["visualFocus"] === true;
+        const control = focused as T.Control;
+        root.ringShown = control !== null && control.visualFocus;
     }
 
     // Leaves the keyboard where the user has put it meanwhile: nobody has it when the window's root
@@ -22,6 +24,6 @@ QtObject {
             return;
         opener.forceActiveFocus(Qt.PopupFocusReason);
         if (root.ringShown)
-            opener["focusReason"] = Qt.TabFocusReason;
+            (opener as T.Control).focusReason = Qt.TabFocusReason;
     }
 }

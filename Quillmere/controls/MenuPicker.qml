@@ -25,7 +25,10 @@ T.ComboBox {
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.ComboBox
-    Accessible.onPressAction: root.popup.open()
+    Accessible.onPressAction: {
+        root.forceActiveFocus(Qt.OtherFocusReason);
+        root.popup.open();
+    }
 
     Keys.onReturnPressed: root.popup.open()
     Keys.onEnterPressed: root.popup.open()

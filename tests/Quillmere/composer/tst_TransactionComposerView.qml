@@ -36,7 +36,7 @@ Item {
         when: windowShown
 
         property Sheet shown
-        property Item form
+        property TransactionComposerView form
 
         function initTestCase() {
             Theme.reducedMotion = true;
@@ -61,7 +61,7 @@ Item {
 
         function focusedName() {
             const item = window.Window.activeFocusItem;
-            return item.objectName !== "" ? item.objectName : item.text;
+            return item.objectName !== "" ? item.objectName : (item as BorderedButton).text;
         }
 
         function test_opensWithTheAmountSelected() {
@@ -106,8 +106,8 @@ Item {
             const rest = ["transaction.date", "transaction.note", "transaction.save", "Cancel",
                 "transaction.amount.decrease"];
             return [
-                { tag: "take", takesTime: true, order: amount.concat("transaction.category", rest) },
-                { tag: "add", takesTime: false, order: amount.concat(rest) }
+                { tag: "take", takesTime: true, order: [...amount, "transaction.category", ...rest] },
+                { tag: "add", takesTime: false, order: [...amount, ...rest] }
             ];
         }
 
