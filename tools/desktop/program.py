@@ -108,7 +108,8 @@ class Program:
             "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
     def picture(self):
-        """The main window once it has come to rest."""
+        """The main window once it has come to rest, without the pointer over it."""
+        self._xdotool("mousemove", 0, 0)
         return picture.settled(lambda: picture.cut(self.desktop.screen(), *self.geometry()))
 
     def await_exit(self, limit=60):
