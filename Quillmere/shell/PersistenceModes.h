@@ -5,8 +5,8 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// `PersistenceMode` as QML sees it (`PersistenceMode.LocalOnly`): names of enumerators that QML can
-/// reach begin with a capital. The numbers are the same.
+/// `PersistenceMode` as QML sees it (`PersistenceMode.LocalOnly`): names of enumerators that QML
+/// can reach begin with a capital. The numbers are the same.
 namespace quillmere::PersistenceModes {
 
 Q_NAMESPACE
