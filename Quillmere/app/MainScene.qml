@@ -20,8 +20,8 @@ AppRootContainer {
         content: Component {
             MacRootView {
                 focus: true
-                model: root.scene.root
-                commands: root.commands
+                model: root.scene.root // qmllint disable unqualified
+                commands: root.commands // qmllint disable unqualified
             }
         }
     }

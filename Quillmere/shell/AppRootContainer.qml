@@ -24,7 +24,7 @@ FocusScope {
         anchors.right: parent.right
         active: root.storage.mode !== PersistenceMode.ICloud
         sourceComponent: PersistenceStatusBanner {
-            mode: root.storage.mode
+            mode: root.storage.mode // qmllint disable unqualified
         }
     }
 

@@ -58,7 +58,7 @@ FocusScope {
 
         ProminentButton {
             anchors.horizontalCenter: parent.horizontalCenter
-            visible: root.supportURL.toString() !== ""
+            visible: String(root.supportURL) !== ""
             text: qsTr("Get support")
             Accessible.role: Accessible.Link
             onClicked: Qt.openUrlExternally(root.supportURL)
