@@ -23,7 +23,7 @@ TEST(LimitedEdit, cutsWhatTheEditPutIn) {
              Row{"pasted into nothing", "", "abcdefgh|", "abcde|"},
              Row{"a family counts as one", "abcd", "abcd" + family + "|", "abcd" + family + "|"},
              Row{"and is cut as one", "abcde", "ab" + family + "|cde", "ab|cde"},
-             Row{"emoji that begin alike", "ab😀de", "ab😃|😀de", "ab|😀de"},
+             Row{"emoji that begin alike", "abc😀e", "abc😃XY|e", "abc😃|e"},
              Row{"an accent on the last letter", "abcde", QStringLiteral("abcde\u0301|"),
                  QStringLiteral("abcde\u0301|")},
              Row{"set by a program", "xyz", "|abcdefgh", "|abcde"},
