@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Layouts
 import Quillmere.controls
 import Quillmere.theme
 
@@ -10,25 +11,19 @@ PopupMenuItem {
     // Whether the command leads to where the user is.
     property bool current: false
 
-    implicitWidth: line.implicitWidth + shortcut.implicitWidth + Theme.spaceXL + leftPadding + rightPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
     Accessible.description: shortcutText
 
-    contentItem: Item {
-        implicitHeight: line.implicitHeight
+    contentItem: RowLayout {
+        spacing: Theme.spaceXL
 
         MenuLine {
-            id: line
-
-            anchors.verticalCenter: parent.verticalCenter
+            Layout.fillWidth: true
             text: root.text
             checked: root.current
         }
 
         Text {
-            id: shortcut
-
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
             text: root.shortcutText
             textFormat: Text.PlainText
             font: Theme.caption
