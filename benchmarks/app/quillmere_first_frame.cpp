@@ -14,9 +14,20 @@
 
 namespace {
 
+const QQuickItem* itemNamed(const QQuickItem& root, const QString& name) {
+    if (root.objectName() == name) {
+        return &root;
+    }
+    for (const QQuickItem* child : root.childItems()) {
+        if (const QQuickItem* found = itemNamed(*child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
 QString shownBalance(const QQuickWindow& window) {
-    const auto* card =
-        window.contentItem()->findChild<QQuickItem*>(QStringLiteral("balance.summary"));
+    const QQuickItem* card = itemNamed(*window.contentItem(), QStringLiteral("balance.summary"));
     return card != nullptr ? card->property("summary").value<quillmere::BalanceSummary>().text
                            : QString();
 }
