@@ -62,10 +62,8 @@ SoftCard {
             }
 
             TrendRangeMenu {
-                id: rangeMenu
-
                 // Its text, not its ground, ends where the card's content ends.
-                Layout.rightMargin: -rangeMenu.rightPadding
+                Layout.rightMargin: -rightPadding
                 titles: root.trendRangeTitles
                 currentIndex: root.trendRangeIndex
                 onChosen: index => root.trendRangeChosen(index)

@@ -1,7 +1,6 @@
 import QtQuick
 import Quillmere.theme
 import Quillmere.controls
-import Quillmere.composer
 import Quillmere.dashboard
 
 // The overview.
@@ -71,8 +70,13 @@ FocusScope {
         target: root.model
 
         function onActiveComposerChanged() {
-            if (root.model.activeComposer)
-                composer.open();
+            if (root.model.activeComposer === null)
+                return;
+            form.setSource("qrc:/qt/qml/Quillmere/composer/TransactionComposerView.qml", {
+                model: root.model.activeComposer,
+                focus: true
+            });
+            composer.open();
         }
     }
 
@@ -88,15 +92,15 @@ FocusScope {
         id: composer
 
         // Before the form's model goes, its view is gone.
-        onClosed: root.model.closeComposer()
+        onClosed: {
+            form.source = "";
+            root.model.closeComposer();
+        }
 
         Loader {
-            active: composer.visible
+            id: form
+
             focus: true
-            sourceComponent: TransactionComposerView {
-                focus: true
-                model: root.model.activeComposer
-            }
         }
     }
 
@@ -104,11 +108,19 @@ FocusScope {
         id: guide
 
         Loader {
+            id: guideView
+
             active: guide.visible
             focus: true
-            sourceComponent: TimeBankGuideView {
-                focus: true
-                onDone: guide.close()
+            source: "TimeBankGuideView.qml"
+            onLoaded: (item as Item).focus = true
+        }
+
+        Connections {
+            target: guideView.item as TimeBankGuideView
+
+            function onDone() {
+                guide.close();
             }
         }
     }

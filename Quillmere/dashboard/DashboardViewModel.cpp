@@ -53,8 +53,8 @@ int DashboardViewModel::trendRangeIndex() const {
     return static_cast<int>(std::find(all.begin(), all.end(), range_) - all.begin());
 }
 
-QStringList DashboardViewModel::trendRangeTitles() {
-    QStringList titles;
+QList<QString> DashboardViewModel::trendRangeTitles() {
+    QList<QString> titles;
     for (const BalanceTrendRange range : BalanceTrendRanges::all) {
         const std::string_view text = title(range);
         titles.append(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));

@@ -12,7 +12,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
-#include <QtCore/QStringList>
+#include <QtCore/QString>
 #include <QtCore/QUrl>
 #include <QtQml/qqmlregistration.h>
 
@@ -43,7 +43,7 @@ class DashboardViewModel : public QObject {
     Q_PROPERTY(QString trendSpoken READ trendSpoken NOTIFY trendChanged)
     Q_PROPERTY(int trendRangeDays READ trendRangeDays NOTIFY trendRangeChanged)
     Q_PROPERTY(int trendRangeIndex READ trendRangeIndex NOTIFY trendRangeChanged)
-    Q_PROPERTY(QStringList trendRangeTitles READ trendRangeTitles CONSTANT)
+    Q_PROPERTY(QList<QString> trendRangeTitles READ trendRangeTitles CONSTANT)
     Q_PROPERTY(quillmere::RecentActivityModel* recentItems READ recentItems CONSTANT)
     Q_PROPERTY(bool hasActivity READ hasActivity NOTIFY hasActivityChanged)
     /// The link to the screen with all changes; empty when it cannot be formed.
@@ -68,7 +68,7 @@ public:
     [[nodiscard]] QString trendSpoken() const;
     [[nodiscard]] int trendRangeDays() const { return dayCount(range_); }
     [[nodiscard]] int trendRangeIndex() const;
-    [[nodiscard]] static QStringList trendRangeTitles();
+    [[nodiscard]] static QList<QString> trendRangeTitles();
     [[nodiscard]] RecentActivityModel* recentItems() { return &recentItems_; }
     [[nodiscard]] bool hasActivity() const { return hasActivity_; }
     [[nodiscard]] static QUrl historyURL();

@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Layouts
 import Quillmere.theme
@@ -25,7 +23,7 @@ ColumnLayout {
 
         LinkButton {
             text: qsTr("See all")
-            visible: root.historyURL.toString() !== ""
+            visible: String(root.historyURL) !== ""
             onClicked: Qt.openUrlExternally(root.historyURL)
         }
     }
@@ -39,29 +37,9 @@ ColumnLayout {
             spacing: 0
 
             Repeater {
-                id: rows
-
                 model: root.items
 
-                ColumnLayout {
-                    id: row
-
-                    required property int index
-                    required property ledgerTransaction transaction
-
-                    spacing: 0
-
-                    Divider {
-                        Layout.fillWidth: true
-                        visible: row.index > 0
-                    }
-
-                    LedgerTransactionRow {
-                        objectName: "overview.recent.item"
-                        Layout.fillWidth: true
-                        transaction: row.transaction
-                    }
-                }
+                RecentActivityRow {}
             }
         }
     }

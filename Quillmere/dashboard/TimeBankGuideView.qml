@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.theme
 import Quillmere.controls
 import Quillmere.dashboard
 

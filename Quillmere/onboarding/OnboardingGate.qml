@@ -9,35 +9,35 @@ FocusScope {
     // The screens behind the gate.
     required property Component content
 
+    function show() {
+        switch (root.model.content) {
+        case OnboardingGateViewModel.Preparing:
+            view.setSource("PreparationView.qml", { model: root.model });
+            break;
+        case OnboardingGateViewModel.FirstRun:
+            view.setSource("OnboardingView.qml", { model: root.model.onboarding });
+            break;
+        case OnboardingGateViewModel.Screens:
+            view.sourceComponent = root.content;
+            break;
+        }
+    }
+
+    Component.onCompleted: root.show()
+
+    Connections {
+        target: root.model
+
+        function onContentChanged() {
+            root.show();
+        }
+    }
+
     Loader {
+        id: view
+
         anchors.fill: parent
         focus: true
         onLoaded: (item as Item).focus = true
-        sourceComponent: {
-            switch (root.model.content) {
-            case OnboardingGateViewModel.Preparing:
-                return preparation;
-            case OnboardingGateViewModel.FirstRun:
-                return firstRun;
-            default:
-                return root.content;
-            }
-        }
-    }
-
-    Component {
-        id: preparation
-
-        PreparationView {
-            Component.onCompleted: root.model.prepare()
-        }
-    }
-
-    Component {
-        id: firstRun
-
-        OnboardingView {
-            model: root.model.onboarding
-        }
     }
 }

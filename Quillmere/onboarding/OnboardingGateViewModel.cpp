@@ -6,7 +6,7 @@
 #include "QuillmereKit/maintenance/StorePreparation.h"
 #include "QuillmereKit/migration/LegacyPrototypeImport.h"
 
-#include <QtCore/QTimer>
+#include <QtCore/QMetaObject>
 
 namespace quillmere {
 
@@ -30,7 +30,7 @@ void OnboardingGateViewModel::prepare() {
         return;
     }
     preparationPending_ = true;
-    QTimer::singleShot(0, this, &OnboardingGateViewModel::runPreparation);
+    QMetaObject::invokeMethod(this, &OnboardingGateViewModel::runPreparation, Qt::QueuedConnection);
 }
 
 void OnboardingGateViewModel::runPreparation() {

@@ -1,9 +1,16 @@
 import QtQuick
 import Quillmere.theme
 import Quillmere.controls
+import Quillmere.onboarding
 
-// The store is being prepared.
+// The store is being prepared, each time this appears.
 Item {
+    id: root
+
+    required property OnboardingGateViewModel model
+
+    Component.onCompleted: root.model.prepare()
+
     Column {
         anchors.centerIn: parent
         spacing: Theme.spaceM
