@@ -35,7 +35,7 @@ QImage symbolImage(const QString& name, int pixels, const QColor& color) {
     if (const QImage* image = cache.object(key)) {
         return *image;
     }
-    const QImage image = drawn(name, pixels, color);
+    QImage image = drawn(name, pixels, color);
     cache.insert(key, new QImage(image), 1 + static_cast<int>(image.sizeInBytes() / 1024));
     return image;
 }
