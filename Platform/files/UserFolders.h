@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// Where the user's files belong: the XDG Base Directory Specification 0.8, and the temporary
+/// Where the user's files belong: the XDG base directories, version 0.8, and the temporary
 /// folder. Paths are only composed; nothing is created unless said.
 class UserFolders {
 public:

@@ -11,7 +11,7 @@
 namespace quillmere {
 
 /// Makes the program the only one of its user's session: it owns the bus name
-/// `dev.vantor.quillmere` and answers org.freedesktop.Application (Desktop Entry Specification 1.5,
+/// `dev.vantor.quillmere` and answers org.freedesktop.Application (the Desktop Entry format 1.5,
 /// "D-Bus Activation") on /dev/vantor/quillmere. Main thread.
 class InstanceService : public QObject {
     Q_OBJECT
