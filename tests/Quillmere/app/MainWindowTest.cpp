@@ -12,6 +12,8 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace quillmere {
 namespace {
@@ -103,15 +105,23 @@ TEST_F(MainWindowTest, LeadsFromTheFirstRunToTheScreens) {
     }
 }
 
-// FakeStoreOpener refuses to open a store while anything still holds the one before.
-TEST_F(MainWindowTest, LetsGoOfEverythingThatHoldsTheStoreBeforeItIsOpenedAgain) {
+// FakeStoreOpener refuses to open a store while the one before is still open.
+TEST_F(MainWindowTest, LetsGoOfViewsThenModelsThenTheSessionBeforeTheStoreIsOpenedAgain) {
     opener_.failing = {"cloud"};
     show();
     completeSetup();
     opener_.failing = {};
+    std::vector<std::string> gone;
+    const auto note = [&gone](const QObject* object, const char* what) {
+        QObject::connect(object, &QObject::destroyed, [&gone, what] { gone.emplace_back(what); });
+    };
+    note(storage_->session(), "session");
+    note(model_->scene(), "models");
+    note(findItem(*window().contentItem(), QStringLiteral("overview.screen")), "view");
     storage_->retryICloud();
     EXPECT_TRUE(shows("storage.retrying"));
     EXPECT_TRUE(shows("onboarding.screen")) << "the new store is empty";
+    EXPECT_EQ(gone, (std::vector<std::string>{"view", "models", "session"}));
     EXPECT_EQ(storage_->mode(), PersistenceMode::iCloud);
     EXPECT_EQ(opener_.attempts,
               (std::vector<std::string>{"cloud shared", "local shared", "cloud shared"}));

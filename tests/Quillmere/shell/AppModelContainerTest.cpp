@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdlib>
+#include <ostream>
 
 namespace quillmere {
 namespace {
@@ -84,6 +85,10 @@ TEST_P(LaunchTest, TriesAndLogsInOrder) {
         expected.push_back({"dev.vantor.quillmere", "Persistence", level, message});
     }
     EXPECT_EQ(log.entries(), expected);
+}
+
+void PrintTo(const Row& row, std::ostream* out) {
+    *out << row.name;
 }
 
 INSTANTIATE_TEST_SUITE_P(AppModelContainer, LaunchTest, testing::ValuesIn(launches));
