@@ -6,8 +6,6 @@
 #include "QuillmereKit/maintenance/StorePreparation.h"
 #include "QuillmereKit/migration/LegacyPrototypeImport.h"
 
-#include <QtCore/QMetaObject>
-
 namespace quillmere {
 
 OnboardingGateViewModel::OnboardingGateViewModel(StoreSession& session, AppState& appState,
@@ -22,19 +20,16 @@ OnboardingGateViewModel::OnboardingGateViewModel(StoreSession& session, AppState
       onboarding_(session, appState) {
     connect(&session_, &StoreSession::settingsChanged, this,
             &OnboardingGateViewModel::updateContent);
+    preparation_.setSingleShot(true);
+    connect(&preparation_, &QTimer::timeout, this, &OnboardingGateViewModel::runPreparation);
     updateContent();
 }
 
 void OnboardingGateViewModel::prepare() {
-    if (preparationPending_) {
-        return;
-    }
-    preparationPending_ = true;
-    QMetaObject::invokeMethod(this, &OnboardingGateViewModel::runPreparation, Qt::QueuedConnection);
+    preparation_.start();
 }
 
 void OnboardingGateViewModel::runPreparation() {
-    preparationPending_ = false;
     prepareStore();
     importPrototype();
 }

@@ -3,6 +3,7 @@
 #include "Quillmere/onboarding/OnboardingViewModel.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 #include <QtQml/qqmlregistration.h>
 
 namespace platform {
@@ -60,7 +61,7 @@ private:
     const platform::Preferences& prototype_;
     OnboardingViewModel onboarding_;
     Content content_ = Preparing;
-    bool preparationPending_ = false;
+    QTimer preparation_;
 };
 
 } // namespace quillmere

@@ -19,6 +19,9 @@ namespace quillmere {
 /// A time bank on a store file of its own, with a clock that stands at Sunday, 22 November 2026,
 /// 15:10 UTC. A session starts on first use; the history arrives with `loadHistory`.
 class TimeBankFixture : public testing::Test {
+public:
+    ~TimeBankFixture() override;
+
 protected:
     static constexpr platform::Instant now{1795360200};
     static constexpr double minute = 60;
@@ -26,7 +29,6 @@ protected:
     static constexpr double day = 86400;
 
     TimeBankFixture();
-    ~TimeBankFixture() override;
 
     StoreSession& session();
     /// Runs the event loop until the history is there.
