@@ -7,8 +7,8 @@
 
 namespace quillmere::ComposerCategories {
 
-std::vector<AdjustmentCategoryOption> options(std::string_view visibleKindsRawValue,
-                                              std::string_view customCategoriesRawValue) {
+std::vector<AdjustmentCategoryOption> shown(std::string_view visibleKindsRawValue,
+                                            std::string_view customCategoriesRawValue) {
     std::vector<AdjustmentCategoryOption> result;
     const auto visible = AdjustmentKindConfiguration::kinds(visibleKindsRawValue);
     for (const BalanceAdjustmentKind kind : AdjustmentKindConfiguration::configurableKinds) {
@@ -22,6 +22,12 @@ std::vector<AdjustmentCategoryOption> options(std::string_view visibleKindsRawVa
             result.push_back(std::move(*option));
         }
     }
+    return result;
+}
+
+std::vector<AdjustmentCategoryOption> options(std::string_view visibleKindsRawValue,
+                                              std::string_view customCategoriesRawValue) {
+    auto result = shown(visibleKindsRawValue, customCategoriesRawValue);
     if (result.empty()) {
         result.push_back(AdjustmentCategoryOption::builtIn(BalanceAdjustmentKind::other));
     }

@@ -13,8 +13,11 @@ namespace quillmere {
 namespace ComposerCategories {
 
 /// From the settings' texts of visible kinds and of custom categories: the visible built-in kinds
-/// that deduct in their fixed order, then the user's own in theirs. "Other" alone when that is
-/// nothing; never empty.
+/// that deduct in their fixed order, then the user's own in theirs.
+[[nodiscard]] std::vector<AdjustmentCategoryOption>
+shown(std::string_view visibleKindsRawValue, std::string_view customCategoriesRawValue);
+
+/// The same, but "Other" alone when that is nothing; never empty.
 [[nodiscard]] std::vector<AdjustmentCategoryOption>
 options(std::string_view visibleKindsRawValue, std::string_view customCategoriesRawValue);
 
