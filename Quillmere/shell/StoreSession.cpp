@@ -84,6 +84,11 @@ TimeBankSettings* StoreSession::settingsRecord() {
     return impl_->settings.isEmpty() ? nullptr : impl_->settings.record(0);
 }
 
+TimeBankSettingsValues StoreSession::settingsValues() {
+    const TimeBankSettings* settings = settingsRecord();
+    return settings ? settings->values() : TimeBankSettingsValues{};
+}
+
 void StoreSession::listen() {
     impl_->settingsSubscription =
         impl_->settings.observe([this](const auto&) { emit settingsChanged(); });

@@ -49,6 +49,8 @@ public:
 
     /// The first settings record, or nothing while there is none.
     [[nodiscard]] TimeBankSettings* settingsRecord();
+    /// What the first settings record holds; the defaults while there is none.
+    [[nodiscard]] TimeBankSettingsValues settingsValues();
 
 signals:
     /// The settings query published.
