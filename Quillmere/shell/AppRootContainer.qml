@@ -3,7 +3,7 @@ import Quillmere.shell
 import Quillmere.theme
 
 // What surrounds the content of every window on an open store: the status banner above it, and the
-// alert over it.
+// alert and the progress of long work over it.
 FocusScope {
     id: root
 
@@ -36,6 +36,10 @@ FocusScope {
         anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         focus: true
+    }
+
+    WorkPanel {
+        work: root.appState.work
     }
 
     IssueAlert {

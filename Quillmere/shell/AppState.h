@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/log/Log.h"
+#include "Quillmere/shell/BackgroundWork.h"
 #include "QuillmereKit/widget/WidgetRefreshThrottle.h"
 
 #include <QtCore/QObject>
@@ -28,14 +29,15 @@ public:
     QString message;
 };
 
-/// What every screen shares: the issue being shown and the widget throttle. One per process, main
-/// thread.
+/// What every screen shares: the issue being shown, the long work under way and the widget throttle.
+/// One per process, main thread.
 class AppState : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("owned by the application")
     Q_PROPERTY(bool hasIssue READ hasIssue NOTIFY issueChanged)
     Q_PROPERTY(quillmere::AppIssue issue READ issue NOTIFY issueChanged)
+    Q_PROPERTY(quillmere::BackgroundWork* work READ work CONSTANT)
 
 public:
     /// `log` must outlive the object.
@@ -51,6 +53,8 @@ public:
     /// Called by the alert when the user dismisses it; nothing else clears an issue.
     Q_INVOKABLE void dismissIssue();
 
+    [[nodiscard]] BackgroundWork* work() { return &work_; }
+
     /// Claims the right to rewrite the widget snapshot; see `WidgetRefreshThrottle::claim`.
     bool claimWidgetRefresh(platform::Instant at, double minimumInterval);
 
@@ -62,6 +66,7 @@ private:
     platform::Log log_;
     std::optional<AppIssue> issue_;
     WidgetRefreshThrottle widgetRefreshThrottle_;
+    BackgroundWork work_;
 };
 
 } // namespace quillmere

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtCore/QTimer>
+#include <QtQml/qqmlregistration.h>
+
+#include <exception>
+#include <functional>
+#include <thread>
+
+namespace quillmere {
+
+/// Long work on a worker thread, one piece at a time, and what the windows show of it. Part of
+/// `AppState`; main thread.
+///
+/// A piece of work that uses the store opens a context of its own; the screens' context learns of
+/// its commit like of any other. It takes with it what it needs, for whoever started it may be gone
+/// before it ends.
+class BackgroundWork : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the application's state")
+    /// What is under way, in words; kept when it ends, so that it can fade out.
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    /// The work writes records: until it ends, every window holds the user's input back.
+    Q_PROPERTY(bool isHoldingInput READ isHoldingInput NOTIFY changed)
+    /// The work has taken half a second: every window shows that it is under way.
+    Q_PROPERTY(bool isShown READ isShown NOTIFY changed)
+
+public:
+    enum class Kind {
+        reading, ///< leaves the records alone
+        writing,
+    };
+
+    explicit BackgroundWork(QObject* parent = nullptr);
+    /// Waits for the work under way, whose `done` is then not called.
+    ~BackgroundWork() override;
+
+    /// Runs `work` on a worker, then `done` on the main thread with what `work` has thrown, or
+    /// null. What a commit of the work changes has reached the screens by then. Does nothing and
+    /// answers false while other work is under way.
+    bool start(Kind kind, const QString& title, std::function<void()> work,
+               std::function<void(std::exception_ptr)> done);
+
+    [[nodiscard]] QString title() const { return title_; }
+    [[nodiscard]] bool isRunning() const { return isRunning_; }
+    [[nodiscard]] bool isHoldingInput() const { return isRunning_ && kind_ == Kind::writing; }
+    [[nodiscard]] bool isShown() const { return isShown_; }
+
+signals:
+    void changed();
+
+private:
+    void show();
+    void finish(const std::function<void(std::exception_ptr)>& done,
+                const std::exception_ptr& problem);
+
+    Kind kind_ = Kind::reading;
+    QString title_;
+    bool isRunning_ = false;
+    bool isShown_ = false;
+    QTimer showing_;
+    std::jthread worker_;
+};
+
+} // namespace quillmere
