@@ -19,8 +19,7 @@ BackgroundWork::BackgroundWork(QObject* parent) : QObject(parent) {
 
 BackgroundWork::~BackgroundWork() = default;
 
-bool BackgroundWork::start(Kind kind, const QString& title, std::function<void()> work,
-                           std::function<void(std::exception_ptr)> done) {
+bool BackgroundWork::start(Kind kind, const QString& title, std::function<void()> work, Done done) {
     if (isRunning_) {
         return false;
     }
@@ -47,13 +46,20 @@ void BackgroundWork::show() {
     emit changed();
 }
 
-void BackgroundWork::finish(const std::function<void(std::exception_ptr)>& done,
-                            const std::exception_ptr& problem) {
+void BackgroundWork::finish(const Done& done, const std::exception_ptr& problem) {
     showing_.stop();
     isRunning_ = false;
     isShown_ = false;
     emit changed();
-    done(problem);
+    if (!problem) {
+        done(nullptr);
+        return;
+    }
+    try {
+        std::rethrow_exception(problem);
+    } catch (const std::exception& error) {
+        done(&error);
+    }
 }
 
 } // namespace quillmere

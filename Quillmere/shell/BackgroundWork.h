@@ -38,11 +38,12 @@ public:
     /// Waits for the work under way, whose `done` is then not called.
     ~BackgroundWork() override;
 
-    /// Runs `work` on a worker, then `done` on the main thread with what `work` has thrown, or
-    /// null. What a commit of the work changes has reached the screens by then. Does nothing and
-    /// answers false while other work is under way.
-    bool start(Kind kind, const QString& title, std::function<void()> work,
-               std::function<void(std::exception_ptr)> done);
+    /// Called on the main thread when work has ended: with what it has thrown, or null. What a
+    /// commit of the work changes has reached the screens by then.
+    using Done = std::function<void(const std::exception* problem)>;
+
+    /// Runs `work` on a worker. Does nothing and answers false while other work is under way.
+    bool start(Kind kind, const QString& title, std::function<void()> work, Done done);
 
     [[nodiscard]] QString title() const { return title_; }
     [[nodiscard]] bool isRunning() const { return isRunning_; }
@@ -54,8 +55,7 @@ signals:
 
 private:
     void show();
-    void finish(const std::function<void(std::exception_ptr)>& done,
-                const std::exception_ptr& problem);
+    void finish(const Done& done, const std::exception_ptr& problem);
 
     Kind kind_ = Kind::reading;
     QString title_;

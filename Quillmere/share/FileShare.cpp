@@ -1,0 +1,175 @@
+#include "Quillmere/share/FileShare.h"
+
+#include "Platform/files/ExportFile.h"
+#include "Platform/files/Files.h"
+#include "Quillmere/share/ShareIssue.h"
+#include "Quillmere/shell/AppState.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
+#include <QtCore/QStandardPaths>
+
+#include <limits>
+#include <memory>
+#include <stdexcept>
+#include <utility>
+
+namespace quillmere {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+QString textOf(const fs::path& path) {
+    return QFile::decodeName(QByteArray::fromStdString(path.native()));
+}
+
+fs::path pathOf(const QUrl& url) {
+    return QFile::encodeName(url.toLocalFile()).toStdString();
+}
+
+void putCopy(const fs::path& file, const fs::path& target) {
+    platform::saveForUser(target,
+                          platform::readFile(file, std::numeric_limits<std::size_t>::max() / 2));
+}
+
+} // namespace
+
+FileShare::FileShare(Prepare prepare, QString title, AppState& appState, QObject* parent)
+    : QObject(parent), prepare_(std::move(prepare)), title_(std::move(title)), appState_(appState) {
+}
+
+QString FileShare::uriList() const {
+    if (step_ != Dragging) {
+        return {};
+    }
+    const QUrl file = QUrl::fromLocalFile(textOf(exported_.path));
+    return QString::fromLatin1(file.toEncoded()) + QStringLiteral("\r\n");
+}
+
+QUrl FileShare::suggestedFolder() const {
+    if (lastFolder_.isValid()) {
+        return lastFolder_;
+    }
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QUrl::fromLocalFile(QFileInfo(documents).isDir() ? documents : QDir::homePath());
+}
+
+QUrl FileShare::suggestedTarget() const {
+    const QDir folder(suggestedFolder().toLocalFile());
+    return QUrl::fromLocalFile(folder.filePath(textOf(exported_.path.filename())));
+}
+
+void FileShare::save() {
+    write(false);
+}
+
+void FileShare::drag() {
+    write(true);
+}
+
+void FileShare::write(bool isForDrag) {
+    if (step_ != Idle) {
+        return;
+    }
+    isForDrag_ = isForDrag;
+    isDragOver_ = false;
+    auto exported = std::make_shared<ExportedFile>();
+    std::function<void()> work;
+    try {
+        work = [exported, write = prepare_()] { *exported = write(); };
+    } catch (const std::exception& error) {
+        ShareIssue::reportUnwritten(appState_, error);
+        return;
+    }
+    const auto done = [share = QPointer(this), &appState = appState_,
+                       exported](const std::exception* problem) {
+        if (problem) {
+            ShareIssue::reportUnwritten(appState, *problem);
+        }
+        if (share) {
+            problem ? share->go(Idle) : share->onWritten(*exported);
+        }
+    };
+    if (appState_.work()->start(BackgroundWork::Kind::reading, title_, std::move(work), done)) {
+        go(Writing);
+    }
+}
+
+void FileShare::onWritten(const ExportedFile& exported) {
+    exported_ = exported;
+    if (isForDrag_) {
+        go(isDragOver_ ? Idle : Dragging);
+    } else {
+        go(exported_.remark.isEmpty() ? Choosing : Remarking);
+    }
+}
+
+void FileShare::endDrag() {
+    isDragOver_ = true;
+    if (step_ == Dragging) {
+        go(exported_.remark.isEmpty() ? Idle : Remarking);
+    }
+}
+
+void FileShare::acceptRemark() {
+    if (step_ == Remarking) {
+        go(isForDrag_ ? Idle : Choosing);
+    }
+}
+
+void FileShare::choose(const QUrl& target) {
+    if (step_ != Choosing) {
+        return;
+    }
+    target_ = target;
+    if (!target.isLocalFile()) {
+        ShareIssue::reportUnsaved(appState_, std::runtime_error("not a local file"));
+        go(Idle);
+    } else if (QFileInfo::exists(target.toLocalFile())) {
+        go(Replacing);
+    } else {
+        copy();
+    }
+}
+
+void FileShare::replace() {
+    if (step_ == Replacing) {
+        copy();
+    }
+}
+
+void FileShare::cancel() {
+    if (step_ == Choosing || step_ == Replacing) {
+        go(Idle);
+    }
+}
+
+void FileShare::copy() {
+    const auto done = [share = QPointer(this),
+                       &appState = appState_](const std::exception* problem) {
+        if (problem) {
+            ShareIssue::reportUnsaved(appState, *problem);
+        }
+        if (share) {
+            problem ? share->go(Idle) : share->onCopied();
+        }
+    };
+    const auto work = [file = exported_.path, target = pathOf(target_)] { putCopy(file, target); };
+    go(appState_.work()->start(BackgroundWork::Kind::reading, title_, work, done) ? Copying : Idle);
+}
+
+void FileShare::onCopied() {
+    lastFolder_ = target_.adjusted(QUrl::RemoveFilename);
+    go(Idle);
+    emit saved(target_);
+}
+
+void FileShare::go(Step step) {
+    step_ = step;
+    emit stepChanged();
+}
+
+} // namespace quillmere

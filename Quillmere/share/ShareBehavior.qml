@@ -1,0 +1,73 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere.controls
+import Quillmere.share
+
+// Makes the control it lies in hand out a file: dragged out of it, or, after `share.save()`, through
+// a save dialog.
+Item {
+    id: root
+
+    required property FileShare share
+    // What is handed out, as the dialog's title, and how its file name ends.
+    required property string title
+    required property string suffix
+    property list<string> nameFilters
+
+    anchors.fill: parent
+    Drag.dragType: Drag.Automatic
+    Drag.supportedActions: Qt.CopyAction
+    Drag.mimeData: ({ "text/uri-list": root.share.uriList })
+    Drag.active: root.share.step === FileShare.Dragging
+    Drag.onDragFinished: root.share.endDrag()
+
+    DragHandler {
+        target: null
+        onActiveChanged: {
+            if (active)
+                root.share.drag();
+            else
+                root.share.endDrag();
+        }
+    }
+
+    Connections {
+        target: root.share
+
+        function onStepChanged() {
+            if (root.share.step === FileShare.Remarking)
+                remark.open();
+            else if (root.share.step === FileShare.Replacing)
+                replacement.open();
+        }
+    }
+
+    Loader {
+        active: root.share.step === FileShare.Choosing
+        sourceComponent: SaveDialog {
+            share: root.share
+            title: root.title
+            suffix: root.suffix
+            nameFilters: root.nameFilters
+        }
+    }
+
+    AlertPanel {
+        id: remark
+
+        title: root.share.remarkTitle
+        message: root.share.remark
+        onDismissed: root.share.acceptRemark()
+    }
+
+    ConfirmationPanel {
+        id: replacement
+
+        title: qsTr("Replace “%1”?").arg(root.share.nameToReplace)
+        message: qsTr("A file with this name is already there. Replacing it overwrites what it holds.")
+        confirmText: qsTr("Replace")
+        onConfirmed: root.share.replace()
+        onDismissed: root.share.cancel()
+    }
+}
