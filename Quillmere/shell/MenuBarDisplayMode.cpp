@@ -1,0 +1,29 @@
+#include "Quillmere/shell/MenuBarDisplayMode.h"
+
+namespace quillmere {
+
+std::string_view rawValue(MenuBarDisplayMode mode) {
+    switch (mode) {
+    case MenuBarDisplayMode::logoOnly:
+        return "logoOnly";
+    case MenuBarDisplayMode::balanceOnly:
+        return "balanceOnly";
+    case MenuBarDisplayMode::logoAndBalance:
+        break;
+    }
+    return "logoAndBalance";
+}
+
+std::string_view title(MenuBarDisplayMode mode) {
+    switch (mode) {
+    case MenuBarDisplayMode::logoOnly:
+        return "Logo only";
+    case MenuBarDisplayMode::balanceOnly:
+        return "Available flex time only";
+    case MenuBarDisplayMode::logoAndBalance:
+        break;
+    }
+    return "Logo + available flex time";
+}
+
+} // namespace quillmere
