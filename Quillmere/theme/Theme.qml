@@ -42,12 +42,16 @@ QtObject {
     readonly property color controlPressed: dark ? Qt.rgba(1, 1, 1, 0.03) : Qt.rgba(0.93, 0.94, 0.935, 1)
     readonly property color controlBorder: dark ? Qt.rgba(1, 1, 1, highContrast ? 0.70 : 0.11)
                                                 : Qt.rgba(0, 0, 0, highContrast ? 0.60 : 0.11)
+    readonly property color toggleOn: highContrast ? readable3(accent) : accent
+    readonly property color toggleOff: dark ? Qt.rgba(1, 1, 1, 0.16) : Qt.rgba(0, 0, 0, 0.10)
+    readonly property color knob: "white"
     readonly property color hairline: highContrast ? controlBorder : tinted(secondary, 0.16)
     readonly property color divider: highContrast ? controlBorder
         : dark ? Qt.rgba(1, 1, 1, 0.09) : Qt.rgba(0, 0, 0, 0.09)
     readonly property color sidebar: tinted(primary, 0.018)
     readonly property color scrim: Qt.rgba(0, 0, 0, dark ? 0.45 : 0.28)
     readonly property color shadow: Qt.rgba(0, 0, 0, dark ? 0.16 : 0.04)
+    readonly property color knobShadow: Qt.rgba(0, 0, 0, 0.22)
     readonly property color deepShadow: Qt.rgba(0, 0, 0, dark ? 0.50 : 0.18)
     readonly property color prominent: dark ? Qt.rgba(0.10, 0.50, 0.405, 1) : deepAccent
     readonly property color prominentHover: dark ? Qt.rgba(0.105, 0.515, 0.415, 1) : Qt.rgba(0.09, 0.46, 0.375, 1)
