@@ -22,13 +22,17 @@ std::map<AppRoute, Screen> screensOf(StoreSession& session,
                                                     application.preferences,
                                                     std::make_unique<ContinuousCountdown>());
     };
+    const auto makeSettings = [&session, application] {
+        return std::make_unique<SettingsViewModel>(session, application.settings);
+    };
     return {
         {AppRoute::overview,
          {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/dashboard/DashboardView.qml")),
           makeDashboard}},
         {AppRoute::history, blankScreen("qrc:/qt/qml/Quillmere/history/HistoryView.qml")},
         {AppRoute::reports, blankScreen("qrc:/qt/qml/Quillmere/reports/ReportsView.qml")},
-        {AppRoute::settings, blankScreen("qrc:/qt/qml/Quillmere/settings/SettingsView.qml")},
+        {AppRoute::settings,
+         {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/settings/SettingsView.qml")), makeSettings}},
     };
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quillmere/onboarding/OnboardingGateViewModel.h"
+#include "Quillmere/settings/SettingsViewModel.h"
 #include "Quillmere/shell/MacRootViewModel.h"
 
 #include <QtCore/QObject>
@@ -31,6 +32,7 @@ public:
         RouteSelection& routes;
         platform::Preferences& preferences;
         const platform::Preferences& prototype; ///< the earlier prototype's domain
+        SettingsViewModel::Services settings;
     };
 
     /// Everything given must outlive the object.

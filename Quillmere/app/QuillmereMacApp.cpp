@@ -1,5 +1,8 @@
 #include "Quillmere/app/QuillmereMacApp.h"
 
+#include "Quillmere/app/Version.h"
+#include "Quillmere/settings/AppVersion.h"
+
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTimer>
 #include <QtGui/QDesktopServices>
@@ -7,11 +10,15 @@
 #include <QtGui/QIcon>
 #include <QtQuick/QQuickWindow>
 
+#include <filesystem>
+
 namespace quillmere {
 
 namespace {
 
 const QString windowIcon = QStringLiteral(":/qt/qml/Quillmere/app/icon.svg");
+constexpr const char* desktopId = "dev.vantor.quillmere";
+constexpr const char* programName = "Quillmere";
 const QString deepLinkScheme = QStringLiteral("quillmere");
 
 StoreLocations locationsIn(const platform::UserFolders& folders) {
@@ -25,7 +32,10 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       folders_(platform::UserFolders::ofEnvironment()),
       preferences_(folders_.configuration() / "dev.vantor.quillmere"),
       prototype_(folders_.configuration() / "dev.vantor.Quillmere"),
+      loginItem_(folders_.configuration(), desktopId, programName,
+                 std::filesystem::read_symlink("/proc/self/exe")),
       entitlements_(platform::FileEntitlements::ofRunningProgram()),
+      preferencesFollower_(preferences_),
       desktop_(bus),
       appearance_(preferences_, desktop_),
       time_(clock_),
@@ -36,11 +46,14 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       routes_(preferences_),
       // There is no tray item yet to come back from.
       delegate_(preferences_, [] { return false; }),
-      mainWindowModel_(storage_, appearance_, {appState_, routes_, preferences_, prototype_}) {
+      mainWindowModel_(storage_, appearance_,
+                       {appState_, routes_, preferences_, prototype_, settingsServices()}) {
     QDesktopServices::setUrlHandler(deepLinkScheme, this, "open");
     QGuiApplication::setQuitOnLastWindowClosed(false);
     connect(qGuiApp, &QGuiApplication::lastWindowClosed, this,
             &QuillmereMacApp::onLastWindowClosed);
+    connect(&preferencesFollower_, &PreferencesFollower::changed, &appearance_,
+            &AppearanceModel::changed);
     followPreferences();
 }
 
@@ -92,9 +105,13 @@ void QuillmereMacApp::followPreferences() {
     if (fd < 0) {
         return;
     }
-    preferences_.onChange([this] { emit appearance_.changed(); });
     auto* notifier = new QSocketNotifier(fd, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this] { preferences_.processChanges(); });
+}
+
+SettingsViewModel::Services QuillmereMacApp::settingsServices() {
+    return {appState_, storage_, preferencesFollower_, loginItem_,
+            AppVersion::text(QString::fromUtf8(versionText), QString::fromUtf8(buildNumberText))};
 }
 
 QQuickWindow* QuillmereMacApp::mainWindow() const {

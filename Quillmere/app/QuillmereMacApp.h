@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/autostart/LoginItem.h"
 #include "Platform/base/Clock.h"
 #include "Platform/entitlements/Entitlements.h"
 #include "Platform/files/UserFolders.h"
@@ -9,6 +10,7 @@
 #include "Quillmere/shell/AppModelContainer.h"
 #include "Quillmere/shell/BuildStoreOpener.h"
 #include "Quillmere/shell/PortalDesktopSettings.h"
+#include "Quillmere/shell/PreferencesFollower.h"
 #include "Quillmere/shell/QuillmereMacAppDelegate.h"
 #include "Quillmere/shell/TimeFollower.h"
 
@@ -43,6 +45,7 @@ public slots:
 private:
     void onLastWindowClosed();
     void followPreferences();
+    [[nodiscard]] SettingsViewModel::Services settingsServices();
     [[nodiscard]] QQuickWindow* mainWindow() const;
 
     platform::SystemLogSink log_;
@@ -50,7 +53,9 @@ private:
     platform::UserFolders folders_;
     platform::FilePreferences preferences_;
     platform::FilePreferences prototype_;
+    platform::LoginItem loginItem_;
     platform::FileEntitlements entitlements_;
+    PreferencesFollower preferencesFollower_;
     PortalDesktopSettings desktop_;
     AppearanceModel appearance_;
     TimeFollower time_;

@@ -1,9 +1,11 @@
 #include "Platform/log/MemoryLogSink.h"
 #include "Platform/preferences/MemoryPreferences.h"
 #include "Quillmere/app/MainWindowModel.h"
+#include "Quillmere/shell/PreferencesFollower.h"
 #include "Quillmere/shell/TimeFollower.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
 
+#include <QtCore/QTemporaryDir>
 #include <QtQml/QQmlApplicationEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
@@ -44,7 +46,12 @@ protected:
     void show() {
         storage_.emplace(container_, container_.make(), time_);
         model_.emplace(*storage_, appearance_,
-                       MainSceneModel::Application{appState_, routes_, preferences_, prototype_});
+                       MainSceneModel::Application{
+                           appState_,
+                           routes_,
+                           preferences_,
+                           prototype_,
+                           {appState_, *storage_, follower_, loginItem_, QStringLiteral("1.2")}});
         QObject::connect(&engine_, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
             ADD_FAILURE() << warnings.first().toString().toStdString();
         });
@@ -77,6 +84,10 @@ protected:
     platform::MemoryLogSink log_;
     platform::MemoryPreferences preferences_;
     platform::MemoryPreferences prototype_;
+    PreferencesFollower follower_{preferences_};
+    QTemporaryDir folder_;
+    platform::LoginItem loginItem_{folder_.path().toStdString(), "quillmere", "Quillmere",
+                                   "/bin/true"};
     platform::SystemClock clock_;
     TimeFollower time_{clock_};
     NoDesktop desktop_;

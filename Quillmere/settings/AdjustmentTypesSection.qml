@@ -1,0 +1,86 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Quillmere.controls
+import Quillmere.settings
+import Quillmere.theme
+
+// Which categories the forms offer.
+FormSection {
+    id: root
+
+    required property AdjustmentTypesViewModel model
+
+    title: qsTr("Adjustment types")
+    footer: qsTr("Choose the built-in categories shown in the activity editor, or add your own. Removing a custom category never changes existing activities.")
+
+    FormRow {
+        first: true
+        symbol: "plus.forwardslash.minus"
+        text: qsTr("Manual adjustment")
+
+        PlainText {
+            text: qsTr("Always shown")
+            color: Theme.secondary
+        }
+    }
+
+    Repeater {
+        model: root.model.kinds
+
+        ToggleRow {
+            id: kind
+
+            required property int index
+            required property string rawValue
+            required property string title
+            required property bool shown
+            required symbol
+
+            text: kind.title
+            identifier: "settings.adjustmentKind." + kind.rawValue
+            on: kind.shown
+            onToggled: root.model.toggleKind(kind.index)
+        }
+    }
+
+    Repeater {
+        id: categories
+
+        // The row that follows a removed one takes its place for the keyboard.
+        function focusRow(index: int) {
+            const row = categories.itemAt(Math.min(index, categories.count - 1)) as CustomCategoryRow;
+            if (row === null)
+                name.forceActiveFocus(Qt.TabFocusReason);
+            else
+                row.focusButton();
+        }
+
+        model: root.model.customCategories
+
+        CustomCategoryRow {
+            id: category
+
+            required property int index
+            required property string title
+
+            text: category.title
+            onRemoveChosen: {
+                const index = category.index;
+                const count = categories.count;
+                root.model.remove(index);
+                if (categories.count < count)
+                    categories.focusRow(index);
+            }
+        }
+    }
+
+    FormRow {
+        NewCategoryField {
+            id: name
+
+            width: root.width - 30
+            model: root.model
+        }
+    }
+}

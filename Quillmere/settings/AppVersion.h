@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace quillmere::AppVersion {
+
+/// The version as the user reads it: "1.2 (45)", or without the parentheses when there is no build
+/// number, or "Unavailable" in place of an empty short version.
+[[nodiscard]] QString text(const QString& shortVersion, const QString& buildNumber);
+
+} // namespace quillmere::AppVersion

@@ -1,0 +1,15 @@
+import QtQuick
+import Quillmere.settings
+import Quillmere.theme
+
+// A row that opens a page in the browser.
+ActionRow {
+    id: root
+
+    required property url url
+
+    role: Accessible.Link
+    tint: Theme.primary
+    trailingSymbol: "arrow.up.right"
+    onClicked: Qt.openUrlExternally(root.url)
+}

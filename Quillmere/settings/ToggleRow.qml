@@ -1,0 +1,27 @@
+import QtQuick
+import Quillmere.controls
+import Quillmere.settings
+
+// A row that is on or off; a press anywhere in it changes that. `identifier` is the switch's.
+FormRow {
+    id: root
+
+    property alias identifier: control.objectName
+    property alias on: control.on
+
+    signal toggled()
+
+    ToggleSwitch {
+        id: control
+
+        text: root.text
+        onClicked: root.toggled()
+    }
+
+    TapHandler {
+        onTapped: {
+            control.forceActiveFocus(Qt.MouseFocusReason);
+            root.toggled();
+        }
+    }
+}
