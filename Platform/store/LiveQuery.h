@@ -35,11 +35,10 @@ concept LiveRow = std::copyable<Row> &&
 ///
 /// `Row` is a small copyable struct made from a record's values, with
 ///
-///     static std::optional<Row> make(RowRef ref, const R::Values& values);  // nothing: not listed
-///     friend bool operator<(const Row&, const Row&);   // the list's order, a strict weak ordering
-///     friend bool operator==(const Row&, const Row&);                       // equal rows: no
-///     report RowRef ref;                                                           // as given to
-///     `make`
+///     RowRef ref; // as given to `make`
+///     static std::optional<Row> make(RowRef ref, const R::Values& values); // nothing: not listed
+///     friend bool operator<(const Row&, const Row&); // the list's order, a strict weak ordering
+///     friend bool operator==(const Row&, const Row&); // between equal rows nothing is reported
 ///
 /// so that 100,000 rows cost a few bytes each and no record objects. Equals in the order stand in
 /// the order they were inserted. `record(index)` answers the record object behind a row.
