@@ -1,5 +1,6 @@
 #include "Platform/store/CommitWatch.h"
 
+#include "Platform/base/UniqueFd.h"
 #include "Platform/store/SqliteError.h"
 
 #include <sys/epoll.h>
@@ -29,17 +30,9 @@ int checked(int result, const char* what) {
     return result;
 }
 
-class FileDescriptor {
-public:
-    FileDescriptor(int fd, const char* what) : fd_(checked(fd, what)) {}
-    ~FileDescriptor() { ::close(fd_); }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-    [[nodiscard]] int get() const { return fd_; }
-
-private:
-    int fd_;
-};
+UniqueFd opened(int fd, const char* what) {
+    return UniqueFd(checked(fd, what));
+}
 
 } // namespace
 
@@ -72,7 +65,7 @@ public:
     }
 
 private:
-    void waitFor(const FileDescriptor& source) {
+    void waitFor(const UniqueFd& source) {
         epoll_event event{};
         event.events = EPOLLIN;
         event.data.fd = source.get();
@@ -111,11 +104,11 @@ private:
     }
 
     std::string logName_;
-    FileDescriptor epoll_{::epoll_create1(EPOLL_CLOEXEC), "cannot create an epoll instance"};
-    FileDescriptor inotify_{::inotify_init1(IN_NONBLOCK | IN_CLOEXEC),
-                            "cannot create an inotify instance"};
-    FileDescriptor timer_{::timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC),
-                          "cannot create a timer"};
+    UniqueFd epoll_ = opened(::epoll_create1(EPOLL_CLOEXEC), "cannot create an epoll instance");
+    UniqueFd inotify_ =
+        opened(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC), "cannot create an inotify instance");
+    UniqueFd timer_ = opened(::timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC),
+                             "cannot create a timer");
     std::size_t followUps_ = 0;
 };
 

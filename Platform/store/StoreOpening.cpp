@@ -1,12 +1,12 @@
 #include "Platform/store/StoreOpening.h"
 
+#include "Platform/files/Files.h"
 #include "Platform/store/FileProbe.h"
 #include "Platform/store/SchemaSetup.h"
 #include "Platform/store/SqliteError.h"
 #include "Platform/store/Store.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -20,20 +20,28 @@ namespace platform::store {
 
 namespace {
 
-/// Creates the folder and its missing parents for the user alone.
-void createFolder(const std::filesystem::path& folder) {
-    if (folder.empty() || std::filesystem::exists(folder)) {
-        return;
+StoreFault faultOf(FileError::Kind kind) {
+    switch (kind) {
+    case FileError::Kind::noPermission:
+        return StoreFault::readOnly;
+    case FileError::Kind::diskFull:
+        return StoreFault::diskFull;
+    default:
+        return StoreFault::cannotOpen;
     }
-    createFolder(folder.parent_path());
-    if (::mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) {
-        throw systemError(StoreFault::cannotOpen, "cannot create " + folder.string(), errno);
+}
+
+void createFolder(const std::filesystem::path& folder) try {
+    if (!folder.empty()) {
+        createPrivateFolder(folder);
     }
+} catch (const FileError& error) {
+    throw StoreError(faultOf(error.kind()), error.what());
 }
 
 /// SQLite would create the file readable for all.
 void createFile(const std::filesystem::path& file) {
-    const int fd = ::open(file.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
+    const int fd = ::open(file.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, privateFileMode);
     if (fd >= 0) {
         ::close(fd);
     } else if (errno != EEXIST) {
