@@ -9,7 +9,9 @@
 #include <stdexcept>
 
 TestFolder::TestFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "test-XXXXXX").string();
+    const std::filesystem::path parent =
+        ::access("/dev/shm", W_OK) == 0 ? "/dev/shm" : std::filesystem::temp_directory_path();
+    std::string name = (parent / "test-XXXXXX").string();
     if (::mkdtemp(name.data()) == nullptr) {
         throw std::runtime_error("mkdtemp");
     }

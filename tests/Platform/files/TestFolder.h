@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-/// A new folder under the temporary one, removed with everything in it.
+/// A new folder, in memory where that is possible, removed with everything in it.
 class TestFolder {
 public:
     TestFolder();

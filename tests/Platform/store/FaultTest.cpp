@@ -14,7 +14,7 @@ constexpr const char* changed = "edited inserted kept";
 /// What a process would find that starts after this one was killed: the file and its log as they
 /// are now, without the index beside it.
 std::string recovered(const std::filesystem::path& file) {
-    const TemporaryFolder folder;
+    const TestFolder folder;
     const std::filesystem::path copy = folder.path() / "copy.sqlite";
     for (const char* suffix : {"", "-wal"}) {
         if (std::filesystem::exists(file.string() + suffix)) {
@@ -67,7 +67,7 @@ protected:
     /// Saves with the operation of this number failing, once for each way on from there; answers
     /// whether there was such an operation.
     bool tryFailing(Fault fault, int operation, bool andAllLater, bool thenRollback) {
-        TemporaryFolder folder;
+        TestFolder folder;
         const std::filesystem::path file = folder.path() / "Test.sqlite";
         std::filesystem::copy_file(this->file(), file);
         const auto store = Store::open(testSchema(), {.file = file, .vfs = faultyVfs::name});

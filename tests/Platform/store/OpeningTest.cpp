@@ -150,7 +150,7 @@ TEST_F(OpeningTest, KeepsItsIdentity) {
 
 TEST_F(OpeningTest, NewerSchemaStillInTheLogIsRefusedAndLeftThere) {
     fill();
-    const TemporaryFolder copies;
+    const TestFolder copies;
     const std::filesystem::path copy = copies.path() / "copy.sqlite";
     {
         const auto newer = Store::open(testSchema(2).addMigration(1, {}), {.file = file()});

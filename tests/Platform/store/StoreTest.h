@@ -1,11 +1,10 @@
 #pragma once
 
 #include "Platform/store/Store.h"
+#include "tests/Platform/files/TestFolder.h"
 #include "tests/Platform/store/Reminder.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -16,29 +15,6 @@
 #include <vector>
 
 namespace platform::store::test {
-
-/// A folder that is gone when the test is over; in memory where that is possible, for speed.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        const bool hasMemory = ::access("/dev/shm", W_OK) == 0;
-        const std::filesystem::path parent =
-            hasMemory ? "/dev/shm" : std::filesystem::temp_directory_path();
-        std::string name = (parent / "store-test-XXXXXX").string();
-        path_ = ::mkdtemp(name.data());
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 inline std::string contents(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
@@ -99,7 +75,7 @@ protected:
         return open()->makeContext(environment());
     }
 
-    TemporaryFolder folder_;
+    TestFolder folder_;
 };
 
 } // namespace platform::store::test
