@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <unordered_set>
-#include <vector>
 
 using platform::Uuid;
 
@@ -55,14 +54,4 @@ TEST(Uuid, RandomOnesAreVersionFourAndDiffer) {
     }
     const auto allBits = Uuid::parse("FFFFFFFF-FFFF-4FFF-BFFF-FFFFFFFFFFFF");
     EXPECT_EQ(Uuid(everSet), allBits);
-}
-
-TEST(Uuid, OrdersAsItsText) {
-    std::vector<Uuid> uuids;
-    for (int round = 0; round < 200; ++round) {
-        uuids.push_back(Uuid::random());
-    }
-    for (std::size_t index = 1; index < uuids.size(); ++index) {
-        EXPECT_EQ(uuids[index - 1] < uuids[index], uuids[index - 1].text() < uuids[index].text());
-    }
 }

@@ -132,7 +132,7 @@ TEST_P(ContextTest, TakesAChangeBackWhenTheStoredValueIsAssigned) {
     EXPECT_EQ(context_->revision(), revision);
 }
 
-TEST_P(ContextTest, KeepsAProvisionalKeyFindingItsRecord) {
+TEST_P(ContextTest, KeepsAProvisionalKeyFindingItsRecordAndNeverReusesASavedOne) {
     Reminder& reminder = addReminder(*context_, "new");
     const RowKey provisional = reminder.key();
     EXPECT_TRUE(isProvisional(provisional));
@@ -141,17 +141,11 @@ TEST_P(ContextTest, KeepsAProvisionalKeyFindingItsRecord) {
     EXPECT_FALSE(isProvisional(reminder.key()));
     EXPECT_EQ(context_->find<Reminder>(provisional), &reminder);
     EXPECT_EQ(context_->find<Reminder>(reminder.key()), &reminder);
-}
-
-TEST_P(ContextTest, NeverReusesAKey) {
-    Reminder& last = addReminder(*context_, "last");
+    context_->remove(reminder);
     context_->save();
-    const RowKey key = last.key();
-    context_->remove(last);
+    const Reminder& next = addReminder(*context_, "next");
     context_->save();
-    Reminder& next = addReminder(*context_, "next");
-    context_->save();
-    EXPECT_GT(next.key(), key);
+    EXPECT_GT(next.key(), reminder.key());
 }
 
 TEST_P(ContextTest, RefreshTakesInExactlyWhatOthersCommitted) {
