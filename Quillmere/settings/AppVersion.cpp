@@ -5,10 +5,11 @@
 namespace quillmere {
 
 QString AppVersion::text(const QString& shortVersion, const QString& buildNumber) {
-    const QString version = shortVersion.isEmpty()
-                                ? QCoreApplication::translate("AppVersion", "Unavailable")
-                                : shortVersion;
-    return buildNumber.isEmpty() ? version : QStringLiteral("%1 (%2)").arg(version, buildNumber);
+    if (shortVersion.isEmpty()) {
+        return QCoreApplication::translate("AppVersion", "Unavailable");
+    }
+    return buildNumber.isEmpty() ? shortVersion
+                                 : QStringLiteral("%1 (%2)").arg(shortVersion, buildNumber);
 }
 
 } // namespace quillmere

@@ -4,8 +4,8 @@
 
 namespace quillmere::AppVersion {
 
-/// The version as the user reads it: "1.2 (45)", or without the parentheses when there is no build
-/// number, or "Unavailable" in place of an empty short version.
+/// The version as the user reads it: "1.2 (45)", or "1.2" when there is no build number, or
+/// "Unavailable" when there is no short version.
 [[nodiscard]] QString text(const QString& shortVersion, const QString& buildNumber);
 
 } // namespace quillmere::AppVersion

@@ -38,8 +38,6 @@ Item {
         function onStepChanged() {
             if (root.share.step === FileShare.Remarking)
                 remark.open();
-            else if (root.share.step === FileShare.Replacing)
-                replacement.open();
         }
     }
 
@@ -62,8 +60,7 @@ Item {
     }
 
     ConfirmationPanel {
-        id: replacement
-
+        shown: root.share.step === FileShare.Replacing
         title: qsTr("Replace “%1”?").arg(root.share.nameToReplace)
         message: qsTr("A file with this name is already there. Replacing it overwrites what it holds.")
         confirmText: qsTr("Replace")
