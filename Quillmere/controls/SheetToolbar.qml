@@ -3,13 +3,15 @@ import Quillmere.controls
 import Quillmere.theme
 
 // The top row of a sheet: its title in the middle, a button to cancel on the left, one to confirm on
-// the right; an empty text leaves the button out.
+// the right, which can be pressed while `canConfirm`; an empty text leaves the button out.
 Item {
     id: root
 
     property string title: ""
     property string cancelText: ""
     property string confirmText: ""
+    property bool canConfirm: true
+    property string confirmHint: ""
 
     signal canceled()
     signal confirmed()
@@ -39,14 +41,22 @@ Item {
         Accessible.role: Accessible.Heading
     }
 
-    BorderedButton {
+    ProminentButton {
         id: confirm
 
         anchors.right: parent.right
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         visible: text !== ""
+        topPadding: cancel.topPadding
+        bottomPadding: cancel.bottomPadding
+        leftPadding: cancel.leftPadding
+        rightPadding: cancel.rightPadding
+        height: Theme.compactControlHeight
+        font: Theme.subheadlineSemibold
+        enabled: root.canConfirm
         text: root.confirmText
+        Accessible.description: root.confirmHint
         onClicked: root.confirmed()
     }
 

@@ -40,6 +40,7 @@ QtObject {
     readonly property color control: dark ? Qt.rgba(1, 1, 1, 0.055) : "white"
     readonly property color controlHover: dark ? Qt.rgba(1, 1, 1, 0.095) : Qt.rgba(0.965, 0.972, 0.968, 1)
     readonly property color controlPressed: dark ? Qt.rgba(1, 1, 1, 0.03) : Qt.rgba(0.93, 0.94, 0.935, 1)
+    readonly property color segment: dark ? Qt.rgba(1, 1, 1, 0.13) : "white"
     readonly property color controlBorder: dark ? Qt.rgba(1, 1, 1, highContrast ? 0.70 : 0.11)
                                                 : Qt.rgba(0, 0, 0, highContrast ? 0.60 : 0.11)
     readonly property color toggleOn: highContrast ? readable3(accent) : accent
@@ -56,6 +57,10 @@ QtObject {
     readonly property color prominent: dark ? Qt.rgba(0.10, 0.50, 0.405, 1) : deepAccent
     readonly property color prominentHover: dark ? Qt.rgba(0.105, 0.515, 0.415, 1) : Qt.rgba(0.09, 0.46, 0.375, 1)
     readonly property color prominentPressed: dark ? Qt.rgba(0.085, 0.44, 0.355, 1) : Qt.rgba(0.06, 0.35, 0.285, 1)
+    readonly property color destructive: Qt.rgba(0.77, 0.20, 0.24, 1)
+    readonly property color destructiveHover: Qt.rgba(0.81, 0.23, 0.27, 1)
+    readonly property color destructivePressed: Qt.rgba(0.67, 0.16, 0.20, 1)
+    readonly property color track: dark ? Qt.rgba(1, 1, 1, 0.07) : Qt.rgba(0, 0, 0, 0.055)
     readonly property color selection: tinted(accent, dark ? 0.45 : 0.35)
     readonly property color focus: highContrast ? primary : dark ? accent : readable3(accent)
     readonly property color focusGlow: tinted(accent, highContrast ? 0 : dark ? 0.30 : 0.32)
