@@ -26,6 +26,8 @@ const char16_t* skeletonOf(DateStyle style, bool twelveHour) {
         return twelveHour ? u"MMMEdhm" : u"MMMEdHm";
     case DateStyle::weekdayDayYear:
         return u"yMMMEd";
+    case DateStyle::sectionDay:
+        return u"MMMEEEEd";
     case DateStyle::fullDay:
         return u"yMMMMEEEEd";
     case DateStyle::monthYear:

@@ -12,6 +12,7 @@ namespace platform {
 enum class DateStyle {
     weekdayDayTime, ///< "Sun, Nov 22, 3:10 PM"
     weekdayDayYear, ///< "Sun, Nov 22, 2026"
+    sectionDay,     ///< "Sunday, Nov 22"
     fullDay,        ///< "Sunday, November 22, 2026"
     monthYear,      ///< "November 2026"
     shortWeekday,   ///< "Sun"

@@ -21,6 +21,7 @@ struct Row {
 const Row texts[] = {
     {"en_US", Style::weekdayDayTime, "Sun, Nov 22, 3:10 PM"},
     {"en_US", Style::weekdayDayYear, "Sun, Nov 22, 2026"},
+    {"en_US", Style::sectionDay, "Sunday, Nov 22"},
     {"en_US", Style::fullDay, "Sunday, November 22, 2026"},
     {"en_US", Style::monthYear, "November 2026"},
     {"en_US", Style::shortWeekday, "Sun"},
