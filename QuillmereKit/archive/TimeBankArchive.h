@@ -75,13 +75,13 @@ struct TimeBankArchive {
 
     struct SettingsRecord {
         platform::Uuid id;
-        platform::Instant calculationStartDate;
+        platform::Instant calculationStartDate = {};
         std::int64_t startingBalanceMinutes = 0;
         std::vector<std::int64_t> weekdayMinutes; ///< Monday … Sunday
         /// The three that older archives lack; always present in one made from records.
-        std::optional<std::vector<std::int64_t>> quickActionMinutes;
-        std::optional<std::string> visibleAdjustmentKindsRawValue;
-        std::optional<std::string> customAdjustmentCategoriesRawValue;
+        std::optional<std::vector<std::int64_t>> quickActionMinutes = {};
+        std::optional<std::string> visibleAdjustmentKindsRawValue = {};
+        std::optional<std::string> customAdjustmentCategoriesRawValue = {};
         bool hasCompletedOnboarding = false;
         platform::Instant modifiedAt;
 
