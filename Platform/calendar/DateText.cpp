@@ -26,18 +26,55 @@ const char16_t* skeletonOf(DateStyle style, bool twelveHour) {
         return twelveHour ? u"MMMEdhm" : u"MMMEdHm";
     case DateStyle::weekdayDayYear:
         return u"yMMMEd";
+    case DateStyle::weekdayDay:
+        return u"MMMEd";
     case DateStyle::sectionDay:
         return u"MMMEEEEd";
     case DateStyle::fullDay:
         return u"yMMMMEEEEd";
+    case DateStyle::fullWeekdayDay:
+        return u"MMMMEEEEd";
+    case DateStyle::day:
+        return u"MMMd";
+    case DateStyle::dayYear:
+        return u"yMMMd";
     case DateStyle::monthYear:
         return u"yMMMM";
     case DateStyle::shortWeekday:
         return u"ccc";
     case DateStyle::narrowWeekday:
         return u"ccccc";
+    case DateStyle::fixedDay:
+    case DateStyle::fixedMonth:
+        break;
     }
     return u"";
+}
+
+/// The pattern of a fixed style; null for the styles of a region.
+const char16_t* fixedPatternOf(DateStyle style) {
+    return style == DateStyle::fixedDay     ? u"yyyy-MM-dd"
+           : style == DateStyle::fixedMonth ? u"yyyy-MM"
+                                            : nullptr;
+}
+
+icu::Locale localeOf(DateStyle style, const Region& region) {
+    return fixedPatternOf(style)
+               ? icu::Locale(("en_US_POSIX@calendar=" + region.calendarSystem()).c_str())
+               : icu::Locale(region.localeId().c_str());
+}
+
+icu::UnicodeString patternOf(DateStyle style, const Region& region, const icu::Locale& locale) {
+    if (const char16_t* fixed = fixedPatternOf(style))
+        return fixed;
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(locale, status));
+    require(status);
+    const auto pattern =
+        generator->getBestPattern(skeletonOf(style, region.usesTwelveHourClock()), status);
+    require(status);
+    return pattern;
 }
 
 /// A calendar that knows no zone but GMT and no change from Julian to Gregorian dates.
@@ -55,13 +92,9 @@ std::unique_ptr<icu::Calendar> civilCalendar(const icu::Locale& locale) {
 
 std::unique_ptr<icu::SimpleDateFormat> formatterOf(DateStyle style, const Region& region) {
     UErrorCode status = U_ZERO_ERROR;
-    const icu::Locale locale(region.localeId().c_str());
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(locale, status));
-    require(status);
-    const auto pattern =
-        generator->getBestPattern(skeletonOf(style, region.usesTwelveHourClock()), status);
-    auto formatter = std::make_unique<icu::SimpleDateFormat>(pattern, locale, status);
+    const icu::Locale locale = localeOf(style, region);
+    auto formatter =
+        std::make_unique<icu::SimpleDateFormat>(patternOf(style, region, locale), locale, status);
     require(status);
     formatter->adoptCalendar(civilCalendar(locale).release());
     return formatter;

@@ -7,14 +7,20 @@
 
 namespace platform {
 
-/// The styles in which dates are shown. Order of fields, separators and hour cycle are the
-/// region's; the examples are those of en_US.
+/// The styles in which dates are written. Order of fields, separators and hour cycle are the
+/// region's, except where a style is fixed; the examples are those of en_US.
 enum class DateStyle {
     weekdayDayTime, ///< "Sun, Nov 22, 3:10 PM"
     weekdayDayYear, ///< "Sun, Nov 22, 2026"
+    weekdayDay,     ///< "Sun, Nov 22"
     sectionDay,     ///< "Sunday, Nov 22"
     fullDay,        ///< "Sunday, November 22, 2026"
+    fullWeekdayDay, ///< "Sunday, November 22"
+    day,            ///< "Nov 22"
+    dayYear,        ///< "Nov 22, 2026"
     monthYear,      ///< "November 2026"
+    fixedDay,       ///< "2026-11-22" in every region, for files
+    fixedMonth,     ///< "2026-11" in every region, for files
     shortWeekday,   ///< "Sun"
     narrowWeekday,  ///< "S"
 };

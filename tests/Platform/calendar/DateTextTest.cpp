@@ -21,8 +21,12 @@ struct Row {
 const Row texts[] = {
     {"en_US", Style::weekdayDayTime, "Sun, Nov 22, 3:10 PM"},
     {"en_US", Style::weekdayDayYear, "Sun, Nov 22, 2026"},
+    {"en_US", Style::weekdayDay, "Sun, Nov 22"},
     {"en_US", Style::sectionDay, "Sunday, Nov 22"},
     {"en_US", Style::fullDay, "Sunday, November 22, 2026"},
+    {"en_US", Style::fullWeekdayDay, "Sunday, November 22"},
+    {"en_US", Style::day, "Nov 22"},
+    {"en_US", Style::dayYear, "Nov 22, 2026"},
     {"en_US", Style::monthYear, "November 2026"},
     {"en_US", Style::shortWeekday, "Sun"},
     {"en_US", Style::narrowWeekday, "S"},
@@ -30,6 +34,10 @@ const Row texts[] = {
     {"fr_CA", Style::weekdayDayTime, "Sun, Nov 22, 15:10"},
     {"th_TH", Style::monthYear, "November 2569 BE"},
     {"fa_IR", Style::monthYear, "Azar 1405 AP"},
+    {"de_DE", Style::fixedDay, "2026-11-22"},
+    {"ar_EG", Style::fixedMonth, "2026-11"},
+    {"th_TH", Style::fixedDay, "2569-11-22"},
+    {"fa_IR", Style::fixedMonth, "1405-09"},
 };
 
 TEST(DateText, writesEnglishByTheRegionsConventions) {
