@@ -13,10 +13,6 @@ namespace quillmere {
 
 namespace {
 
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 std::vector<AdjustmentCategoryOption> offeredCategories(StoreSession& session) {
     if (const TimeBankSettings* settings = session.settingsRecord()) {
         return ComposerCategories::options(settings->visibleAdjustmentKindsRawValue(),
@@ -46,19 +42,19 @@ TransactionComposerViewModel::TransactionComposerViewModel(StoreSession& session
 }
 
 QString TransactionComposerViewModel::title() const {
-    return qString(quillmere::title(mode_));
+    return QString::fromUtf8(quillmere::title(mode_));
 }
 
 QString TransactionComposerViewModel::subtitle() const {
-    return qString(quillmere::subtitle(mode_));
+    return QString::fromUtf8(quillmere::subtitle(mode_));
 }
 
 QString TransactionComposerViewModel::systemImage() const {
-    return qString(quillmere::systemImage(mode_));
+    return QString::fromUtf8(quillmere::systemImage(mode_));
 }
 
 QString TransactionComposerViewModel::saveTitle() const {
-    return qString(quillmere::saveTitle(mode_));
+    return QString::fromUtf8(quillmere::saveTitle(mode_));
 }
 
 void TransactionComposerViewModel::setHoursText(const QString& text) {
@@ -69,7 +65,7 @@ void TransactionComposerViewModel::setHoursText(const QString& text) {
 }
 
 QString TransactionComposerViewModel::validationMessage() const {
-    return qString(AmountText::validationMessage(hoursText_.toStdString()).value_or(""));
+    return QString::fromUtf8(AmountText::validationMessage(hoursText_.toStdString()).value_or(""));
 }
 
 bool TransactionComposerViewModel::canSave() const {
@@ -128,7 +124,7 @@ int TransactionComposerViewModel::editNote(const QString& text, int cursor) {
 
 void TransactionComposerViewModel::save() {
     const auto minutes = AmountText::minutes(hoursText_.toStdString());
-    if (!minutes) {
+    if (isFinished_ || !minutes) {
         return;
     }
     BalanceAdjustment* saved = nullptr;
@@ -141,10 +137,16 @@ void TransactionComposerViewModel::save() {
         return;
     }
     onSaved_(*saved);
-    emit finished();
+    finish();
 }
 
 void TransactionComposerViewModel::cancel() {
+    finish();
+}
+
+// The form can still be pressed while it goes away.
+void TransactionComposerViewModel::finish() {
+    isFinished_ = true;
     emit finished();
 }
 

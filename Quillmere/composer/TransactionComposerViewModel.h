@@ -77,7 +77,7 @@ public:
     /// units.
     Q_INVOKABLE int editNote(const QString& text, int cursor);
     /// Records the change and finishes; on failure reports the issue and leaves form and store as
-    /// they were. Nothing happens while the amount is not valid.
+    /// they were. Nothing happens while the amount is not valid, nor once the form has finished.
     Q_INVOKABLE void save();
     Q_INVOKABLE void cancel();
 
@@ -90,6 +90,7 @@ signals:
 
 private:
     void step(AmountStepperDirection direction);
+    void finish();
     void updateCategories();
     [[nodiscard]] BalanceAdjustment& record(int minutes);
 
@@ -102,6 +103,7 @@ private:
     std::string categoryRawValue_ = "other";
     CategoryListModel categories_;
     DatePickerModel date_;
+    bool isFinished_ = false;
 };
 
 } // namespace quillmere

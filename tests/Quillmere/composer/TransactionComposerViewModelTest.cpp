@@ -112,6 +112,17 @@ TEST_F(TransactionComposerViewModelTest, savesNothingWhileTheAmountIsNotValid) {
     EXPECT_EQ(finished_->count(), 0);
 }
 
+TEST_F(TransactionComposerViewModelTest, savesNothingOnceTheFormHasFinished) {
+    auto& saved = open(TransactionComposerMode::add);
+    saved.save();
+    saved.save();
+    EXPECT_THAT(saved_, testing::SizeIs(1));
+    auto& cancelled = open(TransactionComposerMode::add);
+    cancelled.cancel();
+    cancelled.save();
+    EXPECT_THAT(stored(), testing::SizeIs(1));
+}
+
 TEST_F(TransactionComposerViewModelTest, offersTheCategoriesOfTheSettings) {
     EXPECT_EQ(open(TransactionComposerMode::take).categories()->rowCount(), 4) << "the defaults";
     EXPECT_EQ(open(TransactionComposerMode::take).categoryIndex(), 3) << "other";
