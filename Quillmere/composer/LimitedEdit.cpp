@@ -11,8 +11,7 @@ namespace {
 
 QString firstCharacters(const QString& text, std::size_t count) {
     const std::string utf8 = text.toStdString();
-    const std::string_view first = platform::firstCharacters(utf8, count);
-    return QString::fromUtf8(first.data(), static_cast<qsizetype>(first.size()));
+    return QString::fromUtf8(platform::firstCharacters(utf8, count));
 }
 
 std::size_t count(const QString& text) {

@@ -56,8 +56,7 @@ int DashboardViewModel::trendRangeIndex() const {
 QList<QString> DashboardViewModel::trendRangeTitles() {
     QList<QString> titles;
     for (const BalanceTrendRange range : BalanceTrendRanges::all) {
-        const std::string_view text = title(range);
-        titles.append(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+        titles.append(QString::fromUtf8(title(range)));
     }
     return titles;
 }

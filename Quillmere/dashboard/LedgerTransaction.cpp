@@ -7,24 +7,16 @@
 
 namespace quillmere {
 
-namespace {
-
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-} // namespace
-
 LedgerTransaction LedgerTransaction::of(const BalanceAdjustment& adjustment,
                                         const platform::DateText& dates) {
     LedgerTransaction transaction;
     const double seconds = static_cast<double>(adjustment.minutes()) * 60;
-    transaction.title = qString(LedgerRowText::title(adjustment));
-    transaction.systemImage = qString(LedgerRowText::systemImage(adjustment.minutes()));
+    transaction.title = QString::fromUtf8(LedgerRowText::title(adjustment));
+    transaction.systemImage = QString::fromUtf8(LedgerRowText::systemImage(adjustment.minutes()));
     transaction.dateText =
-        qString(dates.text(adjustment.date(), platform::DateStyle::weekdayDayTime));
-    transaction.amountText = qString(DurationFormatting::clock(seconds, true));
-    transaction.accessibleName = qString(LedgerRowText::accessibilityLabel(adjustment));
+        QString::fromUtf8(dates.text(adjustment.date(), platform::DateStyle::weekdayDayTime));
+    transaction.amountText = QString::fromUtf8(DurationFormatting::clock(seconds, true));
+    transaction.accessibleName = QString::fromUtf8(LedgerRowText::accessibilityLabel(adjustment));
     transaction.takesTime = adjustment.minutes() < 0;
     return transaction;
 }

@@ -64,8 +64,7 @@ void UndoOffer::onRecordsChanged() {
 
 void UndoOffer::updateTexts() {
     const std::int64_t minutes = transaction_->minutes();
-    const std::string_view direction = LedgerRowText::direction(minutes);
-    title_ = QString::fromUtf8(direction.data(), static_cast<qsizetype>(direction.size()));
+    title_ = QString::fromUtf8(LedgerRowText::direction(minutes));
     amountText_ =
         QString::fromStdString(DurationFormatting::clock(static_cast<double>(minutes) * 60, true));
     emit textsChanged();

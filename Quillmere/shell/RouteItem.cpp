@@ -4,33 +4,25 @@
 
 namespace quillmere {
 
-namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-} // namespace
-
 RouteItem::RouteItem(AppRoute route, RouteSelection& selection)
     : QObject(&selection), route_(route), selection_(selection) {
     connect(&selection, &RouteSelection::selectedChanged, this, &RouteItem::selectedChanged);
 }
 
 QString RouteItem::rawValue() const {
-    return text(quillmere::rawValue(route_));
+    return QString::fromUtf8(quillmere::rawValue(route_));
 }
 
 QString RouteItem::title() const {
-    return text(quillmere::title(route_));
+    return QString::fromUtf8(quillmere::title(route_));
 }
 
 QString RouteItem::systemImage() const {
-    return text(quillmere::systemImage(route_));
+    return QString::fromUtf8(quillmere::systemImage(route_));
 }
 
 QUrl RouteItem::url() const {
-    return QUrl(text(quillmere::url(route_)));
+    return QUrl(QString::fromUtf8(quillmere::url(route_)));
 }
 
 QString RouteItem::shortcut() const {
