@@ -25,6 +25,7 @@ T.ComboBox {
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.ComboBox
+    Accessible.description: root.displayText
     Accessible.onPressAction: {
         root.forceActiveFocus(Qt.OtherFocusReason);
         root.popup.open();
@@ -102,6 +103,8 @@ T.ComboBox {
         text: choice.title
         highlighted: root.highlightedIndex === choice.index
         hoverEnabled: true
+        Accessible.selectable: true
+        Accessible.selected: root.currentIndex === choice.index
         Accessible.onPressAction: choice.clicked()
 
         background: Rectangle {
