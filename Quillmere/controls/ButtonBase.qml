@@ -21,8 +21,12 @@ T.Button {
 
     Accessible.role: Accessible.Button
     Accessible.name: root.text
-    // Qt 6.4 has no click() and loses what assistive technology presses.
-    Accessible.onPressAction: root.clicked()
+    // Qt 6.4 has no click() and loses what assistive technology presses, which it may do to a button
+    // that is disabled: Qt 6.4 does not say so.
+    Accessible.onPressAction: {
+        if (root.enabled)
+            root.clicked();
+    }
     // A key that is held down presses once.
     Keys.onReturnPressed: event => {
         if (!event.isAutoRepeat)

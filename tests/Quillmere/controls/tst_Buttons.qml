@@ -52,6 +52,7 @@ Item {
 
             row.button.enabled = false;
             mouseClick(row.button);
+            row.button.Accessible.pressAction();
             compare(clicked.count, 4);
             fuzzyCompare(row.button.opacity, Theme.disabledOpacity, 0.001);
             row.button.enabled = true;
