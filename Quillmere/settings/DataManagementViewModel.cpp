@@ -25,8 +25,6 @@ namespace {
 
 using platform::store::Context;
 
-constexpr std::string_view temporaryFolderName = "quillmere";
-
 ExportedFile exportedFile(const TimeBankArchiveExport::File& file) {
     if (!file.importObstacle) {
         return {file.path, {}, {}};

@@ -3,8 +3,12 @@
 #include <QtCore/QString>
 
 #include <filesystem>
+#include <string_view>
 
 namespace quillmere {
+
+/// The folder that exports are written below, as `UserFolders::temporary` takes its name.
+inline constexpr std::string_view temporaryFolderName = "quillmere";
 
 /// A file that an export has written into the temporary folder, to be handed to the user.
 struct ExportedFile {
