@@ -2,7 +2,8 @@ import QtQuick
 import Quillmere.controls
 import Quillmere.theme
 
-// A day of the month panel, or an empty cell of it.
+// A day of the month panel, or an empty cell of it, which is there all the same: a Grid closes the
+// gap of an item that is not visible.
 Item {
     id: root
 
@@ -14,7 +15,6 @@ Item {
 
     signal pressed()
 
-    visible: number > 0
     Accessible.role: Accessible.Button
     Accessible.name: spoken
     Accessible.ignored: number === 0
@@ -25,6 +25,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         anchors.margins: 2
+        visible: root.number > 0
         radius: width / 2
         color: root.selected ? Theme.prominent
             : Theme.tinted(Theme.accent, !root.selectable ? 0 : tap.pressed ? 0.30
@@ -40,6 +41,7 @@ Item {
 
     Text {
         anchors.centerIn: parent
+        visible: root.number > 0
         text: root.number
         textFormat: Text.PlainText
         font: root.selected || root.today ? Theme.subheadlineSemibold : Theme.subheadline
