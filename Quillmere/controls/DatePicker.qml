@@ -58,7 +58,6 @@ ButtonBase {
         id: popover
 
         x: root.width - width
-        y: root.height + 4
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
         onAboutToShow: root.model.showSelected()
         onOpened: month.focusCursor()

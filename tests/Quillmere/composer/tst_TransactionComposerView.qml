@@ -202,6 +202,9 @@ Item {
             tryCompare(date, "opened", true);
             keyClick(Qt.Key_Right);
             keyClick(Qt.Key_PageUp);
+            const day = window.Window.activeFocusItem;
+            compare(day.Accessible.name, "Thursday, October 22, 2026");
+            compare(day.x, 4 * day.width, "under its weekday");
             keyClick(Qt.Key_Left);
             keyClick(Qt.Key_Return);
             tryCompare(date, "opened", false);
@@ -213,6 +216,19 @@ Item {
             tryCompare(date, "opened", false);
             verify(shown.opened, "Escape closes the popover only");
             compare(Fixture.finishedCount, 0);
+        }
+
+        function test_theCalendarLeavesItsFieldInSight() {
+            open(true);
+            const date = part("transaction.date");
+            keyClick(Qt.Key_Tab);
+            date.clicked();
+            tryCompare(date, "opened", true);
+            const panel = window.Window.activeFocusItem.parent.parent.parent;
+            const field = date.mapToItem(null, 0, 0).y;
+            const top = panel.mapToItem(null, 0, 0).y;
+            verify(top + panel.height < field || top > field + date.height);
+            verify(top > 0 && top + panel.height < window.height);
         }
 
         function test_theNoteHolds280Characters() {
