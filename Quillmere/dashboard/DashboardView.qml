@@ -100,6 +100,7 @@ FocusScope {
         Loader {
             id: form
 
+            anchors.fill: parent
             focus: true
         }
     }
@@ -110,6 +111,7 @@ FocusScope {
         Loader {
             id: guideView
 
+            anchors.fill: parent
             active: guide.visible
             focus: true
             source: "TimeBankGuideView.qml"

@@ -178,6 +178,7 @@ Item {
             const guide = findChild(window.Window.window, "guide.screen");
             for (const text of ["How Quillmere works", "Keep one clear balance", "Choose what happened", "Set the amount quickly", "Add context when taking time", "Review every change", "Private sync"])
                 verify(named(guide, text), text);
+            verify(guide.mapToItem(null, 0, guide.height).y < window.height, "stays in the window");
             const done = named(guide, "Done");
             tryVerify(() => done.activeFocus);
             keyClick(Qt.Key_Return);
