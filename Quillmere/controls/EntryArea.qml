@@ -13,17 +13,21 @@ Item {
     property int minimumLines: 2
     property int maximumLines: 4
     readonly property alias editor: area
-    readonly property real lineHeight: metrics.lineSpacing
+    // What the editor really gives a line; the font's own line spacing is a fraction of a pixel less.
+    readonly property real lineHeight: area.contentHeight / Math.max(1, area.lineCount)
+    readonly property int verticalPadding: 10
 
     implicitWidth: 200
-    implicitHeight: area.topPadding + area.bottomPadding
+    implicitHeight: 2 * root.verticalPadding
         + Math.ceil(root.lineHeight * Math.max(minimumLines, Math.min(maximumLines, area.lineCount)))
     opacity: enabled ? 1 : Theme.disabledOpacity
 
-    FontMetrics {
-        id: metrics
+    HoverHandler {
+        cursorShape: Qt.IBeamCursor
+    }
 
-        font: area.font
+    TapHandler {
+        onTapped: area.forceActiveFocus(Qt.MouseFocusReason)
     }
 
     Rectangle {
@@ -38,7 +42,9 @@ Item {
         id: flick
 
         anchors.fill: parent
-        anchors.margins: 1
+        anchors.topMargin: root.verticalPadding
+        anchors.bottomMargin: root.verticalPadding
+        // Only whole lines are shown.
         clip: true
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -47,8 +53,6 @@ Item {
         T.TextArea.flickable: T.TextArea {
             id: area
 
-            topPadding: 9
-            bottomPadding: 9
             leftPadding: 12
             rightPadding: 12
             wrapMode: TextEdit.Wrap
