@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Quillmere.controls
 import Quillmere.theme
 
@@ -7,7 +6,7 @@ import Quillmere.theme
 ButtonBase {
     id: root
 
-    property T.Menu menu: null
+    property PopupMenu menu: null
 
     topPadding: 4
     bottomPadding: 4
@@ -17,7 +16,7 @@ ButtonBase {
     font: Theme.captionMedium
     Accessible.role: Accessible.ButtonMenu
 
-    onClicked: root.menu.popup(root, root.width - root.menu.implicitWidth, root.height + 4)
+    onClicked: root.menu.openUnder(root)
     Keys.onDownPressed: root.clicked()
 
     background: Rectangle {

@@ -11,6 +11,19 @@ T.Menu {
     // The width of the widest item.
     property real widest: 0
 
+    // Opens it under `button`, ending where that ends.
+    function openUnder(button: Item): void {
+        measure();
+        popup(button, button.width - implicitWidth, button.height + Theme.spaceXS);
+    }
+
+    function measure(): void {
+        let width = 0;
+        for (let i = 0; i < count; ++i)
+            width = Math.max(width, itemAt(i).implicitWidth);
+        widest = width;
+    }
+
     implicitWidth: Math.max(160, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
     padding: 5
@@ -40,9 +53,6 @@ T.Menu {
     onClosed: root.keeper.giveBack(root.parent.Window.activeFocusItem)
     onAboutToShow: {
         root.keeper.take(root.parent.Window.activeFocusItem);
-        let width = 0;
-        for (let i = 0; i < count; ++i)
-            width = Math.max(width, itemAt(i).implicitWidth);
-        widest = width;
+        root.measure();
     }
 }

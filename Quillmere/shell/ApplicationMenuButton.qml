@@ -19,7 +19,7 @@ IconButton {
     down: pressed || menu.opened
     Accessible.role: Accessible.ButtonMenu
     Accessible.description: qsTr("F10")
-    onClicked: menu.popup(root, root.width - menu.implicitWidth, root.height + Theme.spaceXS)
+    onClicked: menu.openUnder(root)
 
     Connections {
         target: root.commands
