@@ -10,11 +10,11 @@ namespace quillmere {
 
 std::optional<LedgerRow> LedgerRow::make(platform::store::RowRef ref,
                                          const BalanceAdjustmentValues& values) {
-    constexpr platform::Instant earliest{-std::numeric_limits<double>::infinity()};
+    constexpr platform::Instant never{std::numeric_limits<double>::infinity()};
     const std::hash<std::string_view> hash;
     const std::size_t content = hash(values.note) * 31 + hash(values.kindRawValue);
     return LedgerRow{.ref = ref,
-                     .date = values.date == values.date ? values.date : earliest,
+                     .date = values.date == values.date ? values.date : never,
                      .minutes = values.minutes,
                      .id = values.id,
                      .modifiedAt = values.modifiedAt,

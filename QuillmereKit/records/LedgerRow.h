@@ -18,7 +18,7 @@ namespace quillmere {
 /// show it.
 struct LedgerRow {
     platform::store::RowRef ref;
-    platform::Instant date; ///< the earliest of all where the record's is not a number
+    platform::Instant date; ///< infinite where the record's is not a number: no moment comes to it
     std::int64_t minutes = 0;
     platform::Uuid id;
     platform::Instant modifiedAt;

@@ -1,3 +1,4 @@
+#include "QuillmereKit/calculation/TimeBankCalculator.h"
 #include "QuillmereKit/records/AppConstants.h"
 #include "QuillmereKit/records/LedgerRow.h"
 #include "QuillmereKit/records/LedgerRowText.h"
@@ -143,7 +144,9 @@ TEST(LedgerRow, OrdersNewestFirstThenByIdentifier) {
     for (const LedgerRow& sorted : rows) {
         order += std::to_string(sorted.id.bytes().back());
     }
-    EXPECT_EQ(order, "2193");
+    EXPECT_EQ(order, "3219");
+    // No moment comes to a date that is not a number, for rows as for records.
+    EXPECT_EQ(TimeBankCalculator::ledgerBalanceSeconds(rows, 0, clockAtNoon.now()), 180);
 }
 
 TEST(LedgerRow, ListsChangesButNotTheMarkerAndDiffersWithWhatIsShown) {
