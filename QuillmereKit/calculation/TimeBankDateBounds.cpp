@@ -13,7 +13,7 @@ platform::Instant earliestCalculationDate(const platform::Calendar& calendar) {
 platform::Instant normalizedCalculationStartDate(platform::Instant date, platform::Instant through,
                                                  const platform::Calendar& calendar) {
     const platform::Instant start =
-        calendar.startOfDay(std::max(date, earliestCalculationDate(calendar)));
+        calendar.startOfDay(std::max(earliestCalculationDate(calendar), date));
     return std::min(start, calendar.startOfDay(through));
 }
 

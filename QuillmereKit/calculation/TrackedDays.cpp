@@ -56,8 +56,8 @@ std::vector<DayBalance> dayBalances(std::span<WorkEntry* const> entries,
                                     std::span<WorkSchedule* const> schedules,
                                     const TimeBankSettings& settings, Instant through,
                                     const platform::Calendar& calendar) {
-    const Instant start = std::max(settings.calculationStartDate(),
-                                   TimeBankDateBounds::earliestCalculationDate(calendar));
+    const Instant start = std::max(TimeBankDateBounds::earliestCalculationDate(calendar),
+                                   settings.calculationStartDate());
     const DayTable table(calendar, calendar.startOfDay(start), through);
     std::vector<DayBalance> days(table.size());
     if (days.empty()) {

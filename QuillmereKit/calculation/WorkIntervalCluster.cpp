@@ -3,6 +3,7 @@
 #include "QuillmereKit/records/WorkEntry.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace quillmere {
@@ -40,7 +41,8 @@ double WorkIntervalCluster::workedShare() const {
         totalBreak += seconds;
     }
     const double duration = end - start;
-    return std::clamp((duration - totalBreak) / duration, 0.0, 1.0);
+    const bool isEndless = std::isinf(duration); // no break is a part of it
+    return isEndless ? 1 : std::clamp((duration - totalBreak) / duration, 0.0, 1.0);
 }
 
 std::vector<WorkIntervalCluster> workClusters(std::span<WorkEntry* const> entries,

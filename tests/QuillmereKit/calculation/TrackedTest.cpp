@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 namespace quillmere::test {
 
 namespace {
@@ -63,6 +65,8 @@ TEST(TrackedDays, CountOverlappingWorkOnce) {
         {"running, the break longer than the work", {{berlin(3, 2, 21), std::nullopt, 180}}, 0},
         {"ends later than now", {entry(22, 23.9)}, 1},
         {"a negative break", {entry(8, 12, -30)}, 4},
+        {"begins before all time", {{{-INFINITY}, berlin(3, 2, 8), 30}}, 8},
+        {"times that are none", {{{std::nan("")}, evening}, {berlin(3, 2), {{std::nan("")}}}}, 0},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -172,6 +176,7 @@ TEST(TimeBankDateBounds, KeepTheStartBetween2000AndToday) {
                                                                   berlinCalendar);
     };
     EXPECT_EQ(start(berlin(6, 1, 0, 1995)), earliest);
+    EXPECT_EQ(start({std::nan("")}), earliest);
     EXPECT_EQ(start(berlin(3, 2, 15)), berlin(3, 2));
     EXPECT_EQ(start(berlin(3, 4, 23)), berlin(3, 4));
     EXPECT_EQ(start(berlin(3, 9)), berlin(3, 4));
