@@ -19,16 +19,17 @@ TimeBankSettings::TimeBankSettings(platform::Uuid id, platform::Instant calculat
                                    std::string_view visibleAdjustmentKindsRawValue,
                                    std::string_view customAdjustmentCategoriesRawValue,
                                    bool hasCompletedOnboarding, platform::Instant modifiedAt)
-    : Record({.id = id,
-              .calculationStartDate = calculationStartDate,
-              .startingBalanceMinutes = startingBalanceMinutes,
-              .visibleAdjustmentKindsRawValue = AdjustmentKindConfiguration::rawValue(
-                  AdjustmentKindConfiguration::kinds(visibleAdjustmentKindsRawValue)),
-              .customAdjustmentCategoriesRawValue = CustomAdjustmentCategoryConfiguration::rawValue(
-                  CustomAdjustmentCategoryConfiguration::categories(
-                      customAdjustmentCategoriesRawValue)),
-              .hasCompletedOnboarding = hasCompletedOnboarding,
-              .modifiedAt = modifiedAt}) {
+    : WeekRecord(
+          {.id = id,
+           .calculationStartDate = calculationStartDate,
+           .startingBalanceMinutes = startingBalanceMinutes,
+           .visibleAdjustmentKindsRawValue = AdjustmentKindConfiguration::rawValue(
+               AdjustmentKindConfiguration::kinds(visibleAdjustmentKindsRawValue)),
+           .customAdjustmentCategoriesRawValue = CustomAdjustmentCategoryConfiguration::rawValue(
+               CustomAdjustmentCategoryConfiguration::categories(
+                   customAdjustmentCategoriesRawValue)),
+           .hasCompletedOnboarding = hasCompletedOnboarding,
+           .modifiedAt = modifiedAt}) {
     setWeekdayMinutes(WeekdayPlan::clamped(weekdayMinutes, WeekdayPlan::defaultWeek));
     setQuickActionMinutes(quickActionMinutes);
 }
@@ -44,28 +45,12 @@ std::unique_ptr<TimeBankSettings> TimeBankSettings::create(platform::Instant now
         CustomAdjustmentCategoryConfiguration::defaultRawValue, false, now);
 }
 
-void TimeBankSettings::setWeekdayMinutes(std::span<const std::int64_t> minutes) {
-    const WeekdayMinutes week = WeekdayPlan::clamped(minutes);
-    assign<&Values::mondayMinutes>(week[0]);
-    assign<&Values::tuesdayMinutes>(week[1]);
-    assign<&Values::wednesdayMinutes>(week[2]);
-    assign<&Values::thursdayMinutes>(week[3]);
-    assign<&Values::fridayMinutes>(week[4]);
-    assign<&Values::saturdayMinutes>(week[5]);
-    assign<&Values::sundayMinutes>(week[6]);
-}
-
 void TimeBankSettings::setQuickActionMinutes(std::span<const std::int64_t> minutes) {
     const QuickActionConfiguration::Presets presets = QuickActionConfiguration::normalized(minutes);
     assign<&Values::quickActionOneMinutes>(presets[0]);
     assign<&Values::quickActionTwoMinutes>(presets[1]);
     assign<&Values::quickActionThreeMinutes>(presets[2]);
     assign<&Values::quickActionFourMinutes>(presets[3]);
-}
-
-std::int64_t TimeBankSettings::scheduledMinutes(platform::Instant on,
-                                                const platform::Calendar& calendar) const {
-    return WeekdayPlan::scheduledMinutes(weekdayMinutes(), on, calendar);
 }
 
 } // namespace quillmere

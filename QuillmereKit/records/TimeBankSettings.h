@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Platform/base/Clock.h"
-#include "Platform/store/Record.h"
 #include "QuillmereKit/records/TimeBankSettingsValues.h"
+#include "QuillmereKit/records/WeekRecord.h"
 
 #include <cstdint>
 #include <memory>
@@ -14,9 +14,9 @@ namespace quillmere {
 
 /// The settings record; a repaired store holds exactly one. Setters never touch `modifiedAt`;
 /// whoever writes keeps it true.
-class TimeBankSettings final : public platform::store::Record<TimeBankSettingsValues> {
+class TimeBankSettings final : public WeekRecord<TimeBankSettingsValues> {
 public:
-    explicit TimeBankSettings(Values values) : Record(std::move(values)) {}
+    explicit TimeBankSettings(Values values) : WeekRecord(std::move(values)) {}
 
     /// Normalises as it stores: weekdays that are missing get the default working week and all are
     /// clamped to 0 … 1440, quick actions are normalised, both category texts are written anew in
@@ -67,22 +67,12 @@ public:
     }
     void setModifiedAt(platform::Instant instant) { assign<&Values::modifiedAt>(instant); }
 
-    /// Monday … Sunday as stored.
-    [[nodiscard]] WeekdayMinutes weekdayMinutes() const { return values().weekdayMinutes(); }
-    /// Monday … Sunday: missing values are 0, each is clamped to 0 … 1440, further ones are
-    /// ignored.
-    void setWeekdayMinutes(std::span<const std::int64_t> minutes);
-
     /// The four presets as stored.
     [[nodiscard]] QuickActionConfiguration::Presets quickActionMinutes() const {
         return values().quickActionMinutes();
     }
     /// The four presets, normalised.
     void setQuickActionMinutes(std::span<const std::int64_t> minutes);
-
-    /// Planned minutes of the day containing the instant, 0 … 1440.
-    [[nodiscard]] std::int64_t scheduledMinutes(platform::Instant on,
-                                                const platform::Calendar& calendar) const;
 };
 
 } // namespace quillmere

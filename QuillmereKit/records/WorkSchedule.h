@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/base/Clock.h"
-#include "Platform/store/Record.h"
+#include "QuillmereKit/records/WeekRecord.h"
 #include "QuillmereKit/records/WorkScheduleValues.h"
 
 #include <cstdint>
@@ -12,9 +12,9 @@
 namespace quillmere {
 
 /// A week of planned minutes that applies from a date on. Setters never touch `modifiedAt`.
-class WorkSchedule final : public platform::store::Record<WorkScheduleValues> {
+class WorkSchedule final : public WeekRecord<WorkScheduleValues> {
 public:
-    explicit WorkSchedule(const Values& values) : Record(values) {}
+    explicit WorkSchedule(const Values& values) : WeekRecord(values) {}
 
     /// Weekday minutes as by `setWeekdayMinutes`, everything else as given.
     WorkSchedule(platform::Uuid id, platform::Instant effectiveFrom,
@@ -32,16 +32,6 @@ public:
     void setEffectiveFrom(platform::Instant instant) { assign<&Values::effectiveFrom>(instant); }
     void setCreatedAt(platform::Instant instant) { assign<&Values::createdAt>(instant); }
     void setModifiedAt(platform::Instant instant) { assign<&Values::modifiedAt>(instant); }
-
-    /// Monday … Sunday as stored.
-    [[nodiscard]] WeekdayMinutes weekdayMinutes() const { return values().weekdayMinutes(); }
-    /// Monday … Sunday: missing values are 0, each is clamped to 0 … 1440, further ones are
-    /// ignored.
-    void setWeekdayMinutes(std::span<const std::int64_t> minutes);
-
-    /// Planned minutes of the day containing the instant, 0 … 1440.
-    [[nodiscard]] std::int64_t scheduledMinutes(platform::Instant on,
-                                                const platform::Calendar& calendar) const;
 };
 
 } // namespace quillmere
