@@ -18,16 +18,30 @@ protected:
     void repair(Instant at) { DataStoreMaintenance::reconcileActivity(*context, at, true); }
     void repair() { repair(now); }
 
-    BalanceAdjustmentValues repaired(const BalanceAdjustmentValues& values) {
-        const auto& record = context->insert(std::make_unique<BalanceAdjustment>(values));
-        repair();
-        return record.values();
-    }
+    /// Spoils a clean record, repairs it and expects it as mended. A repaired content counts as a
+    /// change made now.
+    template <class R>
+    struct Row {
+        using V = typename R::Values;
+        const char* name;
+        std::function<void(V&)> spoil;
+        std::function<void(V&)> mend;
+        bool isContent;
+    };
 
-    WorkEntryValues repaired(const WorkEntryValues& values) {
-        const auto& record = context->insert(std::make_unique<WorkEntry>(values));
-        repair();
-        return record.values();
+    template <class R>
+    void expectRepaired(const typename R::Values& cleanValues, const std::vector<Row<R>>& rows) {
+        for (const Row<R>& row : rows) {
+            SCOPED_TRACE(row.name);
+            auto expected = cleanValues;
+            expected.modifiedAt = row.isContent ? now : cleanValues.modifiedAt;
+            row.mend(expected);
+            auto given = cleanValues;
+            row.spoil(given);
+            const R& record = context->insert(std::make_unique<R>(given));
+            repair();
+            EXPECT_EQ(record.values(), expected);
+        }
     }
 
     BalanceAdjustmentValues clean{uuid(1), berlin(3, 1), 30, "note", "manual", now - 20, now - 10};
@@ -37,79 +51,52 @@ protected:
 TEST_F(ActivityTest, RepairsChanges) {
     constexpr auto least = std::numeric_limits<std::int64_t>::min();
     using V = BalanceAdjustmentValues;
-    const struct {
-        const char* name;
-        std::function<void(V&)> spoil;
-        std::function<void(V&)> mend;
-        bool isContent;
-    } rows[] = {
-        {"clean", [](V&) {}, [](V&) {}, false},
-        {"unknown kind, huge amount", [](V& v) { v.kindRawValue = "sport", v.minutes = least; },
-         [](V& v) { v.kindRawValue = "manual", v.minutes = -60'000; }, true},
-        {"wrong sign", [](V& v) { v.kindRawValue = "appointment"; },
-         [](V& v) { v.kindRawValue = "appointment", v.minutes = 0; }, true},
-        {"custom category not canonical",
-         [](V& v) { v.kindRawValue = "custom:IEd5bQ==", v.minutes = -5000; },
-         [](V& v) { v.kindRawValue = "custom:R3lt", v.minutes = -1440; }, true},
-        {"credit", [](V& v) { v.kindRawValue = "holiday", v.minutes = 5000; },
-         [](V& v) { v.kindRawValue = "holiday", v.minutes = 1440; }, true},
-        {"note with white space", [](V& v) { v.note = " a "; }, [](V& v) { v.note = "a"; }, true},
-        {"note too long", [](V& v) { v.note = std::string(281, 'x'); },
-         [](V& v) { v.note = std::string(280, 'x'); }, true},
-        {"modified ten minutes ahead",
-         [&](V& v) { v.modifiedAt = now + 600, v.createdAt = now + 500; },
-         [&](V& v) { v.modifiedAt = now, v.createdAt = now; }, false},
-        {"modified four minutes ahead", [&](V& v) { v.modifiedAt = now + 240; },
-         [&](V& v) { v.modifiedAt = now + 240; }, false},
-        {"created after the change", [&](V& v) { v.createdAt = now; },
-         [&](V& v) { v.createdAt = now - 10; }, false},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        V given = clean;
-        row.spoil(given);
-        V expected = clean;
-        if (row.isContent) {
-            expected.modifiedAt = now;
-        }
-        row.mend(expected);
-        EXPECT_EQ(repaired(given), expected);
-    }
+    expectRepaired<BalanceAdjustment>(
+        clean,
+        {
+            {"clean", [](V&) {}, [](V&) {}, false},
+            {"unknown kind, huge amount", [](V& v) { v.kindRawValue = "sport", v.minutes = least; },
+             [](V& v) { v.kindRawValue = "manual", v.minutes = -60'000; }, true},
+            {"wrong sign", [](V& v) { v.kindRawValue = "appointment"; },
+             [](V& v) { v.kindRawValue = "appointment", v.minutes = 0; }, true},
+            {"custom category not canonical",
+             [](V& v) { v.kindRawValue = "custom:IEd5bQ==", v.minutes = -5000; },
+             [](V& v) { v.kindRawValue = "custom:R3lt", v.minutes = -1440; }, true},
+            {"credit", [](V& v) { v.kindRawValue = "holiday", v.minutes = 5000; },
+             [](V& v) { v.kindRawValue = "holiday", v.minutes = 1440; }, true},
+            {"note with white space", [](V& v) { v.note = " a "; }, [](V& v) { v.note = "a"; },
+             true},
+            {"note too long", [](V& v) { v.note = std::string(281, 'x'); },
+             [](V& v) { v.note = std::string(280, 'x'); }, true},
+            {"modified ten minutes ahead",
+             [&](V& v) { v.modifiedAt = now + 600, v.createdAt = now + 500; },
+             [&](V& v) { v.modifiedAt = now, v.createdAt = now; }, false},
+            {"modified four minutes ahead", [&](V& v) { v.modifiedAt = now + 240; },
+             [&](V& v) { v.modifiedAt = now + 240; }, false},
+            {"created after the change", [&](V& v) { v.createdAt = now; },
+             [&](V& v) { v.createdAt = now - 10; }, false},
+        });
 }
 
 TEST_F(ActivityTest, RepairsWorkEntries) {
     using V = WorkEntryValues;
-    const struct {
-        const char* name;
-        std::function<void(V&)> spoil;
-        std::function<void(V&)> mend;
-        bool isContent;
-    } rows[] = {
-        {"clean", [](V&) {}, [](V&) {}, false},
-        {"running", [](V& v) { v.endedAt.reset(); }, [](V& v) { v.endedAt.reset(); }, false},
-        {"break too long", [](V& v) { v.breakMinutes = 300; }, [](V& v) { v.breakMinutes = 240; },
-         true},
-        {"negative break", [](V& v) { v.breakMinutes = -1; }, [](V& v) { v.breakMinutes = 0; },
-         true},
-        {"ends before it starts", [](V& v) { v.endedAt = v.startedAt - 1; },
-         [](V& v) { v.endedAt = v.startedAt; }, true},
-        {"note", [](V& v) { v.note = "\n"; }, [](V& v) { v.note = ""; }, true},
-        {"modified ahead", [&](V& v) { v.modifiedAt = now + 600; },
-         [&](V& v) { v.modifiedAt = now; }, false},
-        {"created after the change", [&](V& v) { v.createdAt = now; },
-         [&](V& v) { v.createdAt = now - 10; }, false},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        V given = cleanEntry;
-        row.spoil(given);
-        V expected = cleanEntry;
-        if (row.isContent) {
-            expected.modifiedAt = now;
-        }
-        row.mend(expected);
-        EXPECT_EQ(repaired(given), expected);
-    }
+    expectRepaired<WorkEntry>(
+        cleanEntry,
+        {
+            {"clean", [](V&) {}, [](V&) {}, false},
+            {"running", [](V& v) { v.endedAt.reset(); }, [](V& v) { v.endedAt.reset(); }, false},
+            {"break too long", [](V& v) { v.breakMinutes = 300; },
+             [](V& v) { v.breakMinutes = 240; }, true},
+            {"negative break", [](V& v) { v.breakMinutes = -1; }, [](V& v) { v.breakMinutes = 0; },
+             true},
+            {"ends before it starts", [](V& v) { v.endedAt = v.startedAt - 1; },
+             [](V& v) { v.endedAt = v.startedAt; }, true},
+            {"note", [](V& v) { v.note = "\n"; }, [](V& v) { v.note = ""; }, true},
+            {"modified ahead", [&](V& v) { v.modifiedAt = now + 600; },
+             [&](V& v) { v.modifiedAt = now; }, false},
+            {"created after the change", [&](V& v) { v.createdAt = now; },
+             [&](V& v) { v.createdAt = now - 10; }, false},
+        });
 }
 
 TEST_F(ActivityTest, SavesOnlyWhatItChanged) {

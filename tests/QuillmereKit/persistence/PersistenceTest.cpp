@@ -1,79 +1,60 @@
+#include "Platform/entitlements/MemoryEntitlements.h"
 #include "QuillmereKit/persistence/RuntimeEntitlements.h"
 #include "QuillmereKit/records/TimeBankSettings.h"
 #include "QuillmereKit/records/WorkEntry.h"
 #include "QuillmereKit/records/WorkSchedule.h"
+#include "tests/Platform/files/TestFolder.h"
 #include "tests/QuillmereKit/KitTest.h"
 
-#include <cstdlib>
 #include <filesystem>
-#include <functional>
-#include <map>
 
 namespace quillmere::test {
 
 namespace {
 
-class FakeEntitlements final : public platform::Entitlements {
-public:
-    [[nodiscard]] std::optional<std::string> string(std::string_view key) const override {
-        return key == "com.apple.developer.team-identifier" ? team : std::nullopt;
-    }
-    [[nodiscard]] std::vector<std::string> strings(std::string_view key) const override {
-        const auto found = lists.find(std::string(key));
-        return found == lists.end() ? std::vector<std::string>{} : found->second;
-    }
-
-    std::optional<std::string> team = "VANTOR";
-    std::map<std::string, std::vector<std::string>> lists{
-        {"com.apple.security.application-groups", {"other", "group.dev.vantor.quillmere"}},
-        {"com.apple.developer.icloud-container-identifiers", {"iCloud.dev.vantor.quillmere"}},
-        {"com.apple.developer.icloud-services", {"CloudDocuments", "CloudKit"}}};
-};
+constexpr const char* ourGroup = "group.dev.vantor.quillmere";
+constexpr const char* ourContainer = "iCloud.dev.vantor.quillmere";
 
 TEST(RuntimeEntitlements, DecideWhatTheBuildMayUse) {
-    using E = FakeEntitlements;
     const struct {
         const char* name;
-        std::function<void(E&)> change;
-        bool group;
-        bool cloud;
+        const char* team;
+        const char* group;
+        const char* container;
+        const char* service;
+        bool usesGroup;
+        bool usesCloud;
     } rows[] = {
-        {"everything", [](E&) {}, true, true},
-        {"no team", [](E& e) { e.team.reset(); }, false, false},
-        {"a team of white space", [](E& e) { e.team = " \n"; }, false, false},
-        {"no group", [](E& e) { e.lists.erase("com.apple.security.application-groups"); }, false,
-         false},
-        {"the group in other case",
-         [](E& e) {
-             e.lists["com.apple.security.application-groups"] = {"Group.dev.vantor.quillmere"};
-         },
-         false, false},
-        {"no container",
-         [](E& e) { e.lists["com.apple.developer.icloud-container-identifiers"].clear(); }, true,
-         false},
-        {"the service in lower case",
-         [](E& e) { e.lists["com.apple.developer.icloud-services"] = {"cloudkit"}; }, true, false},
+        {"everything", "VANTOR", ourGroup, ourContainer, "CloudKit", true, true},
+        {"no team", "", ourGroup, ourContainer, "CloudKit", false, false},
+        {"a team of white space", " \n", ourGroup, ourContainer, "CloudKit", false, false},
+        {"no group", "VANTOR", "", ourContainer, "CloudKit", false, false},
+        {"the group in other case", "VANTOR", "Group.dev.vantor.quillmere", ourContainer,
+         "CloudKit", false, false},
+        {"no container", "VANTOR", ourGroup, "", "CloudKit", true, false},
+        {"the service in lower case", "VANTOR", ourGroup, ourContainer, "cloudkit", true, false},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        FakeEntitlements entitlements;
-        row.change(entitlements);
-        EXPECT_EQ(RuntimeEntitlements::hasUsableAppGroup(entitlements), row.group);
-        EXPECT_EQ(RuntimeEntitlements::hasRequiredCloudKitEntitlements(entitlements), row.cloud);
+        platform::MemoryEntitlements entitlements;
+        EXPECT_FALSE(RuntimeEntitlements::hasUsableAppGroup(entitlements));
+        entitlements.setString("com.apple.developer.team-identifier", row.team);
+        entitlements.setStrings("com.apple.security.application-groups", {"other", row.group});
+        entitlements.setStrings("com.apple.developer.icloud-container-identifiers",
+                                {row.container});
+        entitlements.setStrings("com.apple.developer.icloud-services",
+                                {"CloudDocuments", row.service});
+        EXPECT_EQ(RuntimeEntitlements::hasUsableAppGroup(entitlements), row.usesGroup);
+        EXPECT_EQ(RuntimeEntitlements::hasRequiredCloudKitEntitlements(entitlements),
+                  row.usesCloud);
     }
 }
 
 class ContainerTest : public ::testing::Test {
 protected:
-    ContainerTest() {
-        std::string name = std::filesystem::temp_directory_path() / "kit-XXXXXX";
-        root = mkdtemp(name.data());
-        locations = {root / "default", root / "shared"};
-    }
-    void TearDown() override { std::filesystem::remove_all(root); }
-
-    std::filesystem::path root;
-    StoreLocations locations;
+    const TestFolder folder;
+    const std::filesystem::path root = folder.path();
+    const StoreLocations locations{root / "default", root / "shared"};
     platform::ManualClock clock{berlin(3, 4)};
     platform::FixedCalendarSource calendars{calendarIn("Europe/Berlin")};
 };

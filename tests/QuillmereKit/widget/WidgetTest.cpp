@@ -1,3 +1,4 @@
+#include "Platform/entitlements/MemoryEntitlements.h"
 #include "Platform/preferences/MemoryPreferences.h"
 #include "QuillmereKit/records/TimeBankSettings.h"
 #include "QuillmereKit/widget/WidgetRefreshThrottle.h"
@@ -90,26 +91,16 @@ TEST(WidgetSnapshot, ForgetsTodaysFiguresTheNextDay) {
               WidgetSnapshot(60, 0, 0, std::nullopt, defaults, berlin(3, 4, 23), true));
 }
 
-class GroupEntitlements final : public platform::Entitlements {
-public:
-    [[nodiscard]] std::optional<std::string> string(std::string_view) const override {
-        return team;
-    }
-    [[nodiscard]] std::vector<std::string> strings(std::string_view) const override {
-        return {"group.dev.vantor.quillmere"};
-    }
-
-    std::optional<std::string> team = "VANTOR";
-};
-
 TEST(WidgetSnapshotStore, PublishesWhereTheBuildMay) {
     platform::MemoryPreferences standard;
     platform::MemoryPreferences suite;
-    GroupEntitlements entitlements;
+    platform::MemoryEntitlements entitlements;
+    entitlements.setStrings("com.apple.security.application-groups",
+                            {"group.dev.vantor.quillmere"});
+    EXPECT_EQ(&WidgetSnapshotStore::chosenDefaults(entitlements, &suite, standard), &standard);
+    entitlements.setString("com.apple.developer.team-identifier", "VANTOR");
     EXPECT_EQ(&WidgetSnapshotStore::chosenDefaults(entitlements, &suite, standard), &suite);
     EXPECT_EQ(&WidgetSnapshotStore::chosenDefaults(entitlements, nullptr, standard), &standard);
-    entitlements.team.reset();
-    EXPECT_EQ(&WidgetSnapshotStore::chosenDefaults(entitlements, &suite, standard), &standard);
 
     const platform::ManualClock clock{berlin(3, 4)};
     const WidgetSnapshot& empty = WidgetSnapshot::empty(clock);
