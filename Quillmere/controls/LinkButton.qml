@@ -6,8 +6,11 @@ import Quillmere.theme
 ButtonBase {
     id: root
 
-    padding: 2
-    radius: 5
+    topPadding: 3
+    bottomPadding: 3
+    leftPadding: 6
+    rightPadding: 6
+    radius: Theme.rowRadius
     font: Theme.bodyMedium
     Accessible.role: Accessible.Link
 

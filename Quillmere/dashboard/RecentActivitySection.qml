@@ -22,6 +22,8 @@ ColumnLayout {
         }
 
         LinkButton {
+            // Its text, not its ground, ends where the card ends.
+            Layout.rightMargin: -rightPadding
             text: qsTr("See all")
             visible: String(root.historyURL) !== ""
             onClicked: Qt.openUrlExternally(root.historyURL)
