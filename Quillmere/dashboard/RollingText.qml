@@ -23,6 +23,9 @@ Item {
     readonly property real naturalWidth: widthOf(text)
     readonly property real fit: naturalWidth > width && width > 0
         ? Math.max(minimumScale, width / naturalWidth) : 1
+    // Cells as wide as the widest digit leave the others far apart in large type.
+    readonly property real digitWidth: SystemFont.digitWidth(metrics.font)
+        - (SystemFont.hasEqualDigits(metrics.font) ? 0 : 0.025 * root.font.pixelSize)
     // Repeaters make all their items anew when their number changes; so it changes seldom.
     readonly property int cellCount: Math.ceil(text.length / 8) * 8
 
@@ -38,8 +41,7 @@ Item {
         if (character === "") {
             return 0;
         }
-        return character >= "0" && character <= "9" ? SystemFont.digitWidth(metrics.font)
-                                                    : metrics.advanceWidth(character);
+        return character >= "0" && character <= "9" ? digitWidth : metrics.advanceWidth(character);
     }
 
     implicitWidth: naturalWidth

@@ -16,7 +16,7 @@ Rectangle {
     implicitWidth: content.implicitWidth + 2 * Theme.spaceM
     implicitHeight: content.implicitHeight + 2 * Theme.spaceS
     radius: height / 2
-    color: Theme.tinted(root.isNegative ? Theme.alert : Theme.accent, Theme.dark ? 0.16 : 0.13)
+    color: Theme.tinted(root.isNegative ? Theme.alert : Theme.accent, Theme.dark ? 0.10 : 0.13)
     opacity: root.shown ? 1 : 0
 
     Accessible.role: Accessible.StaticText
