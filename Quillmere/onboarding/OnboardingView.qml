@@ -52,7 +52,7 @@ FocusScope {
                 PlainText {
                     Layout.alignment: Qt.AlignHCenter
                     Layout.fillWidth: true
-                    Layout.maximumWidth: 430
+                    Layout.maximumWidth: 400
                     text: qsTr("Quillmere is a manual time bank. Add time when you earn it, subtract time when you use it, and always see the balance you have now.")
                     color: Theme.secondary
                     horizontalAlignment: Text.AlignHCenter
