@@ -9,38 +9,17 @@ import Quillmere.theme
 T.ApplicationWindow {
     id: root
 
-    required property MainWindowModel model
-
-    // The views hold the store; they go at once when there is something else to show.
-    function showContent() {
-        switch (model.content) {
-        case MainWindowModel.Scene:
-            content.setSource("MainScene.qml", {
-                appState: model.appState,
-                storage: model.storage,
-                scene: model.scene,
-                commands: commands
-            });
-            break;
-        case MainWindowModel.Reconnecting:
-            content.source = "qrc:/qt/qml/Quillmere/shell/StorageReconnectView.qml";
-            break;
-        case MainWindowModel.Unavailable:
-            content.setSource("UnavailableContent.qml", { model: model, commands: commands });
-            break;
-        }
-    }
+    required property WindowModel model
 
     title: qsTr("Quillmere")
     objectName: "main"
     width: 980
     height: 700
-    minimumWidth: model.content === MainWindowModel.Scene ? 780 : 620
-    minimumHeight: model.content === MainWindowModel.Scene ? 560 : 440
+    minimumWidth: model.content === WindowModel.Scene ? 780 : 620
+    minimumHeight: model.content === WindowModel.Scene ? 560 : 440
     color: Theme.window
     background: AppBackground {}
     visible: true
-    Component.onCompleted: showContent()
 
     Binding {
         target: Theme
@@ -60,26 +39,27 @@ T.ApplicationWindow {
         value: root.model.appearance.reducedMotion
     }
 
-    Connections {
-        target: root.model
-
-        function onContentChanged() {
-            root.showContent();
-        }
-    }
-
     ApplicationCommands {
         id: commands
 
         routes: root.model.routes
+        onSettingsRequested: root.model.settingsRequested()
         onCloseRequested: root.close()
         onQuitRequested: Qt.quit()
     }
 
-    Loader {
+    WindowContent {
         id: content
 
         anchors.fill: parent
         focus: true
+        model: root.model
+        commands: commands
+        onSceneRequested: content.setSource("MainScene.qml", {
+            appState: root.model.appState,
+            storage: root.model.storage,
+            scene: root.model.scene,
+            commands: commands
+        })
     }
 }

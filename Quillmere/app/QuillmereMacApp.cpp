@@ -2,6 +2,8 @@
 
 #include "Quillmere/app/Version.h"
 #include "Quillmere/settings/AppVersion.h"
+#include "QuillmereKit/records/AppConstants.h"
+#include "QuillmereKit/widget/WidgetSnapshotStore.h"
 
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTimer>
@@ -32,6 +34,7 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       folders_(platform::UserFolders::ofEnvironment()),
       preferences_(folders_.configuration() / "dev.vantor.quillmere"),
       prototype_(folders_.configuration() / "dev.vantor.Quillmere"),
+      suite_(folders_.configuration() / AppConstants::appGroupIdentifier),
       loginItem_(folders_.configuration(), desktopId, programName,
                  std::filesystem::read_symlink("/proc/self/exe")),
       entitlements_(platform::FileEntitlements::ofRunningProgram()),
@@ -46,12 +49,22 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       routes_(preferences_),
       // There is no tray item yet to come back from.
       delegate_(preferences_, [] { return false; }),
-      mainWindowModel_(storage_, appearance_,
-                       {appState_, routes_, preferences_, prototype_, settingsServices()}) {
+      mainWindowModel_(windows(),
+                       [this](StoreSession& session) {
+                           return std::make_unique<MainSceneModel>(
+                               session,
+                               MainSceneModel::Application{appState_, routes_, preferences_,
+                                                           prototype_, settingsServices()});
+                       }),
+      settingsWindow_(engine_, windows(), [this](StoreSession& session) {
+          return std::make_unique<SettingsViewModel>(session, settingsServices());
+      }) {
     QDesktopServices::setUrlHandler(deepLinkScheme, this, "open");
     QGuiApplication::setQuitOnLastWindowClosed(false);
     connect(qGuiApp, &QGuiApplication::lastWindowClosed, this,
             &QuillmereMacApp::onLastWindowClosed);
+    connect(&mainWindowModel_, &WindowModel::settingsRequested, &settingsWindow_,
+            &SettingsWindow::open);
     connect(&preferencesFollower_, &PreferencesFollower::changed, &appearance_,
             &AppearanceModel::changed);
     followPreferences();
@@ -77,6 +90,10 @@ bool QuillmereMacApp::show() {
 
 void QuillmereMacApp::open(const QUrl& url) {
     routes_.open(url);
+    // The link may come from the settings window, which would hide where it led.
+    if (mainWindow() != nullptr && !mainWindow()->isActive()) {
+        raise(QString());
+    }
 }
 
 void QuillmereMacApp::raise(const QString& token) {
@@ -109,8 +126,17 @@ void QuillmereMacApp::followPreferences() {
     connect(notifier, &QSocketNotifier::activated, this, [this] { preferences_.processChanges(); });
 }
 
+WindowModel::Application QuillmereMacApp::windows() {
+    return {appState_, storage_, appearance_, routes_};
+}
+
 SettingsViewModel::Services QuillmereMacApp::settingsServices() {
-    return {appState_, storage_, preferencesFollower_, loginItem_,
+    return {appState_,
+            storage_,
+            preferencesFollower_,
+            loginItem_,
+            folders_,
+            WidgetSnapshotStore::chosenDefaults(entitlements_, &suite_, preferences_),
             AppVersion::text(QString::fromUtf8(versionText), QString::fromUtf8(buildNumberText))};
 }
 

@@ -6,7 +6,9 @@
 #include "Platform/files/UserFolders.h"
 #include "Platform/log/Log.h"
 #include "Platform/preferences/FilePreferences.h"
-#include "Quillmere/app/MainWindowModel.h"
+#include "Quillmere/app/MainSceneModel.h"
+#include "Quillmere/app/SettingsWindow.h"
+#include "Quillmere/app/WindowModel.h"
 #include "Quillmere/shell/AppModelContainer.h"
 #include "Quillmere/shell/BuildStoreOpener.h"
 #include "Quillmere/shell/PortalDesktopSettings.h"
@@ -45,6 +47,7 @@ public slots:
 private:
     void onLastWindowClosed();
     void followPreferences();
+    [[nodiscard]] WindowModel::Application windows();
     [[nodiscard]] SettingsViewModel::Services settingsServices();
     [[nodiscard]] QQuickWindow* mainWindow() const;
 
@@ -53,6 +56,7 @@ private:
     platform::UserFolders folders_;
     platform::FilePreferences preferences_;
     platform::FilePreferences prototype_;
+    platform::FilePreferences suite_;
     platform::LoginItem loginItem_;
     platform::FileEntitlements entitlements_;
     PreferencesFollower preferencesFollower_;
@@ -65,8 +69,9 @@ private:
     AppStorageController storage_;
     RouteSelection routes_;
     QuillmereMacAppDelegate delegate_;
-    MainWindowModel mainWindowModel_;
+    WindowModel mainWindowModel_;
     QQmlApplicationEngine engine_;
+    SettingsWindow settingsWindow_;
 };
 
 } // namespace quillmere

@@ -3,11 +3,11 @@ import Quillmere.app
 import Quillmere.shell
 import Quillmere.theme
 
-// The main window when no store could be opened.
+// A window when no store could be opened.
 FocusScope {
     id: root
 
-    required property MainWindowModel model
+    required property WindowModel model
     required property ApplicationCommands commands
 
     focus: true

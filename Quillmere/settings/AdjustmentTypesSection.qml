@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Quillmere.controls
 import Quillmere.settings
-import Quillmere.theme
 
 // Which categories the forms offer.
 FormSection {
@@ -18,11 +17,7 @@ FormSection {
         first: true
         symbol: "plus.forwardslash.minus"
         text: qsTr("Manual adjustment")
-
-        PlainText {
-            text: qsTr("Always shown")
-            color: Theme.secondary
-        }
+        value: qsTr("Always shown")
     }
 
     Repeater {
@@ -76,6 +71,8 @@ FormSection {
     }
 
     FormRow {
+        Accessible.ignored: true
+
         NewCategoryField {
             id: name
 

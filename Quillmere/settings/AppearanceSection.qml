@@ -14,6 +14,7 @@ FormSection {
         first: true
         symbol: "circle.lefthalf.filled"
         text: qsTr("Theme")
+        Accessible.ignored: true
 
         ChoicePicker {
             objectName: "settings.appearance"

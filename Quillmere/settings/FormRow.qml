@@ -11,6 +11,8 @@ Item {
     property color tint: Theme.secondary
     property string text: ""
     property string detail: ""
+    // What holds at the moment, at the row's end.
+    property string value: ""
     // A remark rather than a setting.
     property bool note: false
     // The first row of its group has no hairline above it.
@@ -21,6 +23,9 @@ Item {
 
     implicitWidth: parent?.width ?? 0
     implicitHeight: Math.max(42, labels.height + 2 * 11, trailing.height + 2 * 6)
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.text
+    Accessible.description: root.detail || root.value
 
     Divider {
         width: parent.width
@@ -53,7 +58,7 @@ Item {
             font: root.note ? Theme.subheadline : Theme.body
             color: root.note ? Theme.secondary : Theme.primary
             wrapMode: Text.Wrap
-            Accessible.description: root.detail
+            Accessible.ignored: true
         }
 
         PlainText {
@@ -64,6 +69,7 @@ Item {
             color: Theme.secondary
             lineHeight: 1.15
             wrapMode: Text.Wrap
+            Accessible.ignored: true
         }
     }
 
@@ -74,5 +80,12 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: root.edge
         spacing: Theme.spaceS
+
+        PlainText {
+            visible: text !== ""
+            text: root.value
+            color: Theme.secondary
+            Accessible.ignored: true
+        }
     }
 }

@@ -8,7 +8,7 @@ Column {
 
     property string title: ""
     property string footer: ""
-    default property alias rows: rows.data
+    default property alias content: rows.data
 
     readonly property int inset: 4
 

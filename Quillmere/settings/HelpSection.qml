@@ -1,7 +1,6 @@
 import QtQuick
 import Quillmere.controls
 import Quillmere.settings
-import Quillmere.theme
 
 // Where to find help, and which version this is.
 FormSection {
@@ -31,10 +30,6 @@ FormSection {
         objectName: "settings.version"
         symbol: "info.circle"
         text: qsTr("Version")
-
-        PlainText {
-            text: root.model.version
-            color: Theme.secondary
-        }
+        value: root.model.version
     }
 }

@@ -44,6 +44,7 @@ FormSection {
     FormRow {
         symbol: "macwindow"
         text: qsTr("Menu bar display")
+        Accessible.ignored: true
 
         ChoicePicker {
             objectName: "settings.menuBarDisplayMode"

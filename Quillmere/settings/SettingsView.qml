@@ -53,5 +53,10 @@ FocusScope {
             width: parent.width
             model: root.model
         }
+
+        DataManagementSection {
+            width: parent.width
+            model: root.model.dataManagement
+        }
     }
 }

@@ -41,7 +41,9 @@ SettingsViewModel::SettingsViewModel(StoreSession& session, const Services& serv
       showsMenuBarExtra_(services.preferences, AppConstants::showMenuBarExtraKey, true),
       menuBarDisplayMode_(services.preferences, AppConstants::menuBarDisplayModeKey,
                           choicesOf(MenuBarDisplayModes::all)),
-      closesWindowToMenuBar_(services.preferences, AppConstants::closeWindowToMenuBarKey, false) {
+      closesWindowToMenuBar_(services.preferences, AppConstants::closeWindowToMenuBarKey, false),
+      dataManagement_(session, {services.appState, services.storage, services.folders,
+                                services.widgetDefaults}) {
     connect(&services.storage, &AppStorageController::resultChanged, this,
             &SettingsViewModel::storageChanged);
     connect(&services.storage, &AppStorageController::didLastICloudRetryFailChanged, this,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Quillmere/settings/AdjustmentTypesViewModel.h"
+#include "Quillmere/settings/DataManagementViewModel.h"
 #include "Quillmere/settings/LaunchAtLogin.h"
 #include "Quillmere/settings/PreferenceChoice.h"
 #include "Quillmere/settings/PreferenceSwitch.h"
@@ -39,6 +40,7 @@ class SettingsViewModel : public QObject {
     Q_PROPERTY(QUrl privacyURL READ privacyURL CONSTANT)
     Q_PROPERTY(QString supportHost READ supportHost CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(quillmere::DataManagementViewModel* dataManagement READ dataManagement CONSTANT)
 
 public:
     /// What outlives every session.
@@ -47,6 +49,9 @@ public:
         AppStorageController& storage;
         PreferencesFollower& preferences; ///< of the standard domain
         platform::LoginItem& loginItem;
+        const platform::UserFolders& folders;
+        /// Where the widget snapshot is published; see `WidgetSnapshotStore::chosenDefaults`.
+        platform::Preferences& widgetDefaults;
         QString version; ///< as the user reads it
     };
 
@@ -67,6 +72,7 @@ public:
     [[nodiscard]] static QUrl privacyURL();
     [[nodiscard]] static QString supportHost();
     [[nodiscard]] const QString& version() const { return services_.version; }
+    [[nodiscard]] DataManagementViewModel* dataManagement() { return &dataManagement_; }
 
     /// Called each time the screen appears: reads the state of the login item and prepares the
     /// store. A failure is reported as an issue.
@@ -86,6 +92,7 @@ private:
     PreferenceSwitch showsMenuBarExtra_;
     PreferenceChoice menuBarDisplayMode_;
     PreferenceSwitch closesWindowToMenuBar_;
+    DataManagementViewModel dataManagement_;
 };
 
 } // namespace quillmere

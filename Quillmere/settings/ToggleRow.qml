@@ -11,6 +11,8 @@ FormRow {
 
     signal toggled()
 
+    Accessible.ignored: true
+
     ToggleSwitch {
         id: control
 

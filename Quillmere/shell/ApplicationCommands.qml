@@ -12,6 +12,7 @@ Item {
 
     required property RouteSelection routes
 
+    signal settingsRequested()
     signal closeRequested()
     signal quitRequested()
     signal menuRequested()
@@ -29,6 +30,11 @@ Item {
             sequence: modelData.shortcut
             onActivated: root.navigate(modelData)
         }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        onActivated: root.settingsRequested()
     }
 
     Shortcut {

@@ -71,6 +71,12 @@ IconButton {
         }
 
         ApplicationMenuItem {
+            text: qsTr("Settings…")
+            shortcutText: "Ctrl+,"
+            onTriggered: root.commands.settingsRequested()
+        }
+
+        ApplicationMenuItem {
             text: qsTr("Close")
             shortcutText: "Ctrl+W"
             onTriggered: root.commands.closeRequested()

@@ -1,6 +1,7 @@
 #include "Platform/log/MemoryLogSink.h"
 #include "Platform/preferences/MemoryPreferences.h"
-#include "Quillmere/app/MainWindowModel.h"
+#include "Quillmere/app/MainSceneModel.h"
+#include "Quillmere/app/SettingsWindow.h"
 #include "Quillmere/shell/PreferencesFollower.h"
 #include "Quillmere/shell/TimeFollower.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
@@ -45,13 +46,16 @@ class MainWindowTest : public testing::Test {
 protected:
     void show() {
         storage_.emplace(container_, container_.make(), time_);
-        model_.emplace(*storage_, appearance_,
-                       MainSceneModel::Application{
-                           appState_,
-                           routes_,
-                           preferences_,
-                           prototype_,
-                           {appState_, *storage_, follower_, loginItem_, QStringLiteral("1.2")}});
+        model_.emplace(windows(), [this](StoreSession& session) {
+            return std::make_unique<MainSceneModel>(
+                session, MainSceneModel::Application{appState_, routes_, preferences_, prototype_,
+                                                     services()});
+        });
+        settings_.emplace(engine_, windows(), [this](StoreSession& session) {
+            return std::make_unique<SettingsViewModel>(session, services());
+        });
+        QObject::connect(&*model_, &WindowModel::settingsRequested, &*settings_,
+                         &SettingsWindow::open);
         QObject::connect(&engine_, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
             ADD_FAILURE() << warnings.first().toString().toStdString();
         });
@@ -62,30 +66,46 @@ protected:
     }
 
     ~MainWindowTest() override {
+        settings_.reset();
         qDeleteAll(engine_.rootObjects());
         model_.reset();
         storage_.reset();
     }
 
+    WindowModel::Application windows() { return {appState_, *storage_, appearance_, routes_}; }
+
+    SettingsViewModel::Services services() {
+        return {
+            appState_, *storage_, follower_, loginItem_, folders_, widget_, QStringLiteral("1.2")};
+    }
+
     QQuickWindow& window() { return *qobject_cast<QQuickWindow*>(engine_.rootObjects().first()); }
 
-    bool shows(const char* objectName) {
+    static bool shows(const QQuickWindow& window, const char* objectName) {
         const QString name = QLatin1String(objectName);
-        return QTest::qWaitFor([&] { return findItem(*window().contentItem(), name) != nullptr; },
+        return QTest::qWaitFor([&] { return findItem(*window.contentItem(), name) != nullptr; },
                                30'000);
+    }
+    bool shows(const char* objectName) { return shows(window(), objectName); }
+
+    const QQuickWindow& openSettings() {
+        QTest::keyClick(&window(), Qt::Key_Comma, Qt::ControlModifier);
+        return *settings_->window();
     }
 
     void completeSetup() {
         ASSERT_TRUE(shows("onboarding.screen"));
-        model_->scene()->gate()->onboarding()->complete();
+        qobject_cast<MainSceneModel*>(model_->scene())->gate()->onboarding()->complete();
         ASSERT_TRUE(shows("overview.screen"));
     }
 
     platform::MemoryLogSink log_;
     platform::MemoryPreferences preferences_;
     platform::MemoryPreferences prototype_;
+    platform::MemoryPreferences widget_;
     PreferencesFollower follower_{preferences_};
     QTemporaryDir folder_;
+    platform::UserFolders folders_{{}, {}, folder_.path().toStdString()};
     platform::LoginItem loginItem_{folder_.path().toStdString(), "quillmere", "Quillmere",
                                    "/bin/true"};
     platform::SystemClock clock_;
@@ -97,8 +117,9 @@ protected:
     AppState appState_{log_};
     RouteSelection routes_{preferences_};
     std::optional<AppStorageController> storage_;
-    std::optional<MainWindowModel> model_;
+    std::optional<WindowModel> model_;
     QQmlApplicationEngine engine_;
+    std::optional<SettingsWindow> settings_;
 };
 
 TEST_F(MainWindowTest, LeadsFromTheFirstRunToTheScreens) {
@@ -143,6 +164,44 @@ TEST_F(MainWindowTest, SaysSoWhenNoStoreCanBeOpened) {
     show();
     EXPECT_TRUE(shows("storage.unavailable"));
     EXPECT_EQ(window().minimumSize(), QSize(620, 440));
+}
+
+TEST_F(MainWindowTest, OpensTheSettingsOverTheFirstRun) {
+    opener_.failing = {"cloud"};
+    show();
+    ASSERT_TRUE(shows("onboarding.screen"));
+    const QQuickWindow& settings = openSettings();
+    EXPECT_EQ(settings.title(), QStringLiteral("Settings"));
+    EXPECT_EQ(settings.minimumSize(), QSize(620, 580));
+    EXPECT_EQ(settings.maximumSize(), QSize(620, 580));
+    EXPECT_TRUE(shows(settings, "settings.screen"));
+    EXPECT_EQ(&openSettings(), &settings) << "there is one only";
+    storage_->retryICloud();
+    EXPECT_TRUE(shows(settings, "storage.retrying"));
+    EXPECT_TRUE(shows(settings, "settings.screen"));
+    EXPECT_TRUE(shows("onboarding.screen"));
+}
+
+TEST_F(MainWindowTest, ClosesTheSettingsWithTheirModelAndOpensThemAnew) {
+    show();
+    completeSetup();
+    bool isGone = false;
+    const QObject* model = openSettings().property("model").value<QObject*>();
+    QObject::connect(model, &QObject::destroyed, [&isGone] { isGone = true; });
+    QTest::keyClick(settings_->window(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_EQ(settings_->window(), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isGone; }, 30'000));
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_TRUE(shows(openSettings(), "settings.screen"));
+}
+
+TEST_F(MainWindowTest, ShowsTheSmallSettingsWindowWithoutAStore) {
+    opener_.failing = {"cloud", "local", "memory"};
+    show();
+    const QQuickWindow& settings = openSettings();
+    EXPECT_TRUE(shows(settings, "storage.unavailable"));
+    EXPECT_EQ(settings.minimumSize(), QSize(620, 440));
+    EXPECT_EQ(settings.maximumSize(), QSize(620, 440));
 }
 
 } // namespace

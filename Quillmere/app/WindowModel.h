@@ -1,21 +1,22 @@
 #pragma once
 
-#include "Quillmere/app/MainSceneModel.h"
 #include "Quillmere/shell/AppState.h"
 #include "Quillmere/shell/AppStorageController.h"
 #include "Quillmere/shell/AppearanceModel.h"
+#include "Quillmere/shell/RouteSelection.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QUrl>
 #include <QtQml/qqmlregistration.h>
 
+#include <functional>
 #include <memory>
 
 namespace quillmere {
 
-/// The one object the main window is given: what it shows at the moment, and what everything in it
-/// draws on. Main thread.
-class MainWindowModel : public QObject {
+/// The one object a window is given: what it shows at the moment, and what everything in it draws
+/// on. Main thread.
+class WindowModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
@@ -26,8 +27,8 @@ class MainWindowModel : public QObject {
     /// The support page; empty when its address is none.
     Q_PROPERTY(QUrl supportURL READ supportURL CONSTANT)
     Q_PROPERTY(Content content READ content NOTIFY contentChanged)
-    /// Null unless the content is `Scene`.
-    Q_PROPERTY(quillmere::MainSceneModel* scene READ scene NOTIFY contentChanged)
+    /// The view model of the window's content on an open store. Null unless the content is `Scene`.
+    Q_PROPERTY(QObject* scene READ scene NOTIFY contentChanged)
 
 public:
     enum Content {
@@ -37,30 +38,39 @@ public:
     };
     Q_ENUM(Content)
 
-    /// Everything given must outlive the object.
-    MainWindowModel(AppStorageController& storage, AppearanceModel& appearance,
-                    const MainSceneModel::Application& application, QObject* parent = nullptr);
-    ~MainWindowModel() override;
+    /// What every window shares, for the life of the process.
+    struct Application {
+        AppState& appState;
+        AppStorageController& storage;
+        AppearanceModel& appearance;
+        RouteSelection& routes;
+    };
+    using MakeScene = std::function<std::unique_ptr<QObject>(StoreSession&)>;
+
+    /// `makeScene` is asked once a session. Everything given must outlive the object.
+    WindowModel(const Application& application, MakeScene makeScene, QObject* parent = nullptr);
+    ~WindowModel() override;
 
     [[nodiscard]] AppState* appState() const { return &application_.appState; }
-    [[nodiscard]] AppStorageController* storage() const { return &storage_; }
-    [[nodiscard]] AppearanceModel* appearance() const { return &appearance_; }
+    [[nodiscard]] AppStorageController* storage() const { return &application_.storage; }
+    [[nodiscard]] AppearanceModel* appearance() const { return &application_.appearance; }
     [[nodiscard]] RouteSelection* routes() const { return &application_.routes; }
     [[nodiscard]] static QUrl supportURL();
     [[nodiscard]] Content content() const;
-    [[nodiscard]] MainSceneModel* scene() const { return scene_.get(); }
+    [[nodiscard]] QObject* scene() const { return scene_.get(); }
 
 signals:
     /// The views of what was shown before must be let go at once.
     void contentChanged();
+    /// The user wants the settings window.
+    void settingsRequested();
 
 private:
     void onSessionChanged();
 
-    AppStorageController& storage_;
-    AppearanceModel& appearance_;
-    MainSceneModel::Application application_;
-    std::unique_ptr<MainSceneModel> scene_;
+    Application application_;
+    MakeScene makeScene_;
+    std::unique_ptr<QObject> scene_;
 };
 
 } // namespace quillmere
