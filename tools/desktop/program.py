@@ -87,30 +87,35 @@ class Program:
     def minimize(self):
         self._xdotool("windowminimize", "--sync", self.window())
 
-    def window(self):
-        """The X11 identifier of the main window."""
+    def windows(self, other_than=None):
+        """The X11 identifiers of the windows that show; waits for one."""
 
         def look():
             answer = self._xdotool("search", "--onlyvisible", "--pid", self.process.pid, check=False)
-            return answer.split()[-1:]
+            return [window for window in answer.split() if window != other_than]
 
-        return eventually(look, "the program has a window")[0]
+        return eventually(look, "the program has a window")
+
+    def window(self):
+        """The X11 identifier of the main window, or of one of several."""
+        return self.windows()[-1]
 
     def resize(self, width, height):
         self._xdotool("windowsize", "--sync", self.window(), width, height)
 
-    def geometry(self):
-        """Left, top, width and height of the main window, in pixels."""
-        answer = subprocess.run(["xwininfo", "-id", self.window()], env=self.desktop.environment,
+    def geometry(self, window=None):
+        """Left, top, width and height of a window, the main one unless said, in pixels."""
+        answer = subprocess.run(["xwininfo", "-id", window or self.window()], env=self.desktop.environment,
                                 stdout=subprocess.PIPE, text=True, check=True, timeout=60).stdout
         values = dict(line.strip().split(":", 1) for line in answer.splitlines() if ":" in line)
         return tuple(int(values[key]) for key in (
             "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
-    def picture(self):
-        """The main window once it has come to rest, without the pointer over it."""
+    def picture(self, window=None):
+        """A window once it has come to rest, the main one unless said, without the pointer over
+        it."""
         self._xdotool("mousemove", 0, 0)
-        return picture.settled(lambda: picture.cut(self.desktop.screen(), *self.geometry()))
+        return picture.settled(lambda: picture.cut(self.desktop.screen(), *self.geometry(window)))
 
     def await_exit(self, limit=60):
         """The exit status."""

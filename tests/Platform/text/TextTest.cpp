@@ -1,4 +1,5 @@
 #include "Platform/text/Characters.h"
+#include "Platform/text/Collation.h"
 #include "Platform/text/LetterCase.h"
 #include "Platform/text/Utf8.h"
 #include "Platform/text/WhiteSpace.h"
@@ -98,6 +99,28 @@ TEST(LetterCase, makesTextsOfOtherCaseOrEncodingEqual) {
     EXPECT_EQ(lowercasedForComparison("Straße Nº"), "straße nº");
     EXPECT_NE(lowercasedForComparison("Strasse"), lowercasedForComparison("Straße"));
     EXPECT_EQ(lowercasedForComparison("A\xFF"), "a\uFFFD");
+}
+
+TEST(Collation, tellsWhatAReaderTakesForAnotherText) {
+    const struct {
+        const char* a;
+        const char* b;
+        bool equal;
+    } rows[] = {
+        {"Errands", "eRRANDS", true},
+        {"Straße", "STRASSE", true}, // the one that lower case alone tells apart
+        {"\u00C9t\u00E9", "e\u0301TE\u0301", true},
+        {"Été", "Ete", false},
+        {"שָׁלוֹם", "שָׁלוֹם", true},
+        {"שלום", "שלומ", false},
+        {"Gym", "Gym 2", false},
+        {"School run", "Schoolrun", false},
+        {"👨‍👩‍👧", "👨‍👩‍👦", false},
+        {"", "", true},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(equalForReaderIgnoringCase(row.a, row.b), row.equal) << row.a << " " << row.b;
+    }
 }
 
 struct Bytes {
