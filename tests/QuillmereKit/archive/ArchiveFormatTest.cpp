@@ -2,10 +2,9 @@
 #include "QuillmereKit/archive/TimeBankArchiveCodingError.h"
 #include "QuillmereKit/archive/TimeBankArchiveError.h"
 #include "QuillmereKit/archive/TimeBankArchiveExport.h"
+#include "tests/Platform/files/TestFolder.h"
 #include "tests/QuillmereKit/KitTest.h"
 #include "tests/QuillmereKit/archive/RandomTimeBank.h"
-
-#include <sys/stat.h>
 
 #include <fstream>
 #include <functional>
@@ -18,77 +17,15 @@ using Reason = TimeBankArchiveError::Reason;
 
 constexpr Instant moment{1'780'000'000.25};
 
-/// One record of each type, in the layout that archives are written in.
-const std::string document = R"({
-  "balanceAdjustments": [
-    {
-      "createdAt": 1780000000,
-      "date": 1779999999.123456,
-      "id": "00000000-0000-0000-0000-000000000001",
-      "kind": "manual",
-      "minutes": -90,
-      "modifiedAt": 1780000000.25,
-      "note": "in/out \"ü\""
-    }
-  ],
-  "exportedAt": 1780000000.25,
-  "schedules": [
-    {
-      "createdAt": 0,
-      "effectiveFrom": -0.5,
-      "id": "00000000-0000-0000-0000-000000000002",
-      "modifiedAt": 0,
-      "weekdayMinutes": [
-        1,
-        2,
-        3,
-        4,
-        5,
-        6,
-        7
-      ]
-    }
-  ],
-  "schemaVersion": 1,
-  "settings": [
-    {
-      "calculationStartDate": 0,
-      "customAdjustmentCategoriesRawValue": "[]",
-      "hasCompletedOnboarding": true,
-      "id": "00000000-0000-0000-0000-000000000003",
-      "modifiedAt": 1,
-      "quickActionMinutes": [
-        15,
-        30,
-        60,
-        120
-      ],
-      "startingBalanceMinutes": 7,
-      "visibleAdjustmentKindsRawValue": "other",
-      "weekdayMinutes": [
-        480,
-        480,
-        480,
-        480,
-        480,
-        0,
-        0
-      ]
-    }
-  ],
-  "workEntries": [
-    {
-      "breakMinutes": 15,
-      "createdAt": 1,
-      "id": "00000000-0000-0000-0000-000000000004",
-      "modifiedAt": 2,
-      "note": "",
-      "startedAt": 3
-    }
-  ]
+std::string fileText(const std::filesystem::path& path) {
+    std::ifstream stream(path);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
-)";
 
+/// One record of each type, as archives are written.
+const std::string document = fileText(SAMPLE_ARCHIVE);
+
+/// The same.
 TimeBankArchive sample() {
     TimeBankArchive archive;
     archive.exportedAt = moment;
@@ -263,17 +200,15 @@ TEST_F(StoreTest, ExportsEverythingSortedIntoAFolderOfItsOwn) {
     const auto exported = TimeBankArchiveExport::ofStore(*context);
     EXPECT_EQ(exported.filename, "Quillmere-Data-2025-03-07-154210.json");
 
-    std::string temporary = ::testing::TempDir() + "archive-XXXXXX";
-    ASSERT_NE(mkdtemp(temporary.data()), nullptr);
-    const std::filesystem::path folder = std::filesystem::path(temporary) / "Quillmere Exports";
+    const TestFolder temporary;
+    const std::filesystem::path folder = temporary.path() / "Quillmere Exports";
     std::filesystem::create_directory(folder);
     std::filesystem::permissions(folder, std::filesystem::perms::all);
     std::ofstream(folder / "earlier.json") << "{}";
 
-    const auto file = exported.write(temporary);
+    const auto file = exported.write(temporary.path());
     EXPECT_EQ(file.importObstacle, std::nullopt);
-    std::ifstream stream(file.path);
-    const std::string text{std::istreambuf_iterator<char>(stream), {}};
+    const std::string text = fileText(file.path);
     EXPECT_EQ(text.size(), file.byteCount);
     const TimeBankArchive archive = TimeBankArchive::decodeJSON(text);
     EXPECT_EQ(archive.exportedAt, clock.now());
@@ -289,7 +224,6 @@ TEST_F(StoreTest, ExportsEverythingSortedIntoAFolderOfItsOwn) {
     EXPECT_EQ(mode(folder), std::filesystem::perms{0700});
     EXPECT_EQ(mode(file.path), std::filesystem::perms{0600});
     EXPECT_FALSE(std::filesystem::exists(folder / "earlier.json"));
-    std::filesystem::remove_all(temporary);
 }
 
 } // namespace quillmere::test
