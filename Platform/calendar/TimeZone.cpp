@@ -1,5 +1,6 @@
 #include "Platform/calendar/TimeZone.h"
 
+#include "Platform/calendar/PosixRule.h"
 #include "Platform/calendar/ZoneRules.h"
 
 #include <algorithm>
@@ -89,7 +90,7 @@ TimeZone TimeZone::system() {
         return fromFile(text).value_or(utc());
     if (auto zone = named(text))
         return *std::move(zone);
-    const auto rules = standardTimeOfPosixRule(text);
+    const auto rules = zoneRulesOfPosixRule(text);
     return rules ? TimeZone(text, *rules) : utc();
 }
 

@@ -26,8 +26,8 @@ public:
     /// call, so that a changed zone is seen.
     ///
     /// `TZ` may hold, with or without a leading colon, an IANA name, the path of a zone file or a
-    /// rule such as "CET-1CEST" (POSIX.1-2017, 8.3). Of a rule only the standard time is taken;
-    /// what makes no sense is UTC, as for the C library.
+    /// rule such as "CET-1CEST,M3.5.0,M10.5.0/3" (POSIX.1-2017, 8.3). What makes no sense is UTC,
+    /// as for the C library.
     [[nodiscard]] static TimeZone system();
 
     [[nodiscard]] static TimeZone utc();

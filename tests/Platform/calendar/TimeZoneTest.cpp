@@ -1,10 +1,12 @@
 #include "Platform/calendar/TimeZone.h"
 
 #include "tests/Platform/calendar/OddZones.h"
+#include "tests/Platform/files/TestFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 
@@ -17,14 +19,7 @@ constexpr Instant summer{1783598400}; // 2026-07-09 12:00 UTC
 
 class SystemTimeZone : public testing::Test {
 public:
-    SystemTimeZone() {
-        std::string pattern = fs::temp_directory_path() / "zones-XXXXXX";
-        folder_ = mkdtemp(pattern.data());
-    }
-    ~SystemTimeZone() override {
-        fs::remove_all(folder_);
-        choose("UTC");
-    }
+    ~SystemTimeZone() override { choose("UTC"); }
 
     static void choose(const std::string& setting) {
         setenv("TZ", setting.c_str(), 1); // NOLINT(concurrency-mt-unsafe): the test has one thread
@@ -37,7 +32,7 @@ public:
                3600;
     }
 
-    fs::path folder_;
+    const TestFolder folder_;
 };
 
 struct Setting {
@@ -55,8 +50,7 @@ TEST_F(SystemTimeZone, understandsEveryFormOfTheSetting) {
         {"UTC", "UTC", 0},
         {"", "UTC", 0},
         {":", "UTC", 0},
-        {"CET-1CEST", "CET-1CEST", 1},
-        {"CET-1CEST,M3.5.0,M10.5.0/3", "CET-1CEST,M3.5.0,M10.5.0/3", 1},
+        {"CET-1CEST", "CET-1CEST", 2},
         {"<+0330>-3:30", "<+0330>-3:30", 3.5},
         {"XYZ4:30:36", "XYZ4:30:36", -4.51},
         {"Nowhere/Nothing", "UTC", 0},
@@ -67,6 +61,7 @@ TEST_F(SystemTimeZone, understandsEveryFormOfTheSetting) {
         {"tzdata.zi", "UTC", 0},
         {"CET-", "UTC", 0},
         {"CET-99", "UTC", 0},
+        {"CET-1CEST,J60", "UTC", 0},
         {"<", "UTC", 0},
         {"-", "UTC", 0},
     };
@@ -78,8 +73,26 @@ TEST_F(SystemTimeZone, understandsEveryFormOfTheSetting) {
     }
 }
 
+TEST_F(SystemTimeZone, keepsTheSummerTimeOfARuleAsTheCLibraryDoes) {
+    for (const char* rule :
+         {"CET-1CEST,M3.5.0,M10.5.0/3", "EST5EDT,M3.2.0,M11.1.0", "EST5EDT",
+          "<-04>4<-03>,M9.1.6/24,M4.1.6/24", "<+1030>-10:30<+11>-11,M10.1.0,M4.1.0",
+          "IST-1GMT0,M10.5.0,M3.5.0/1", "NST3:30NDT,J100/0:01,299/0:01"}) {
+        SCOPED_TRACE(rule);
+        choose(rule);
+        tzset();
+        const Calendar calendar(TimeZone::system(), {});
+        for (std::time_t time = 946684800; time < 4102444800; time += 40 * 3600) { // 2000 to 2100
+            std::tm local{};
+            localtime_r(&time, &local);
+            ASSERT_EQ(calendar.civilSeconds({static_cast<double>(time)}) - time, local.tm_gmtoff)
+                << time;
+        }
+    }
+}
+
 TEST_F(SystemTimeZone, seesAChangedLinkAndAChangedFile) {
-    const auto path = folder_ / "localtime";
+    const auto path = folder_.path() / "localtime";
     choose(path);
     fs::create_symlink("/usr/share/zoneinfo/Europe/Berlin", path);
     const auto berlin = TimeZone::system();
@@ -101,7 +114,7 @@ TEST_F(SystemTimeZone, seesAChangedLinkAndAChangedFile) {
 
 TEST_F(SystemTimeZone, surrendersToNoCutOffZoneFile) {
     const fs::path source = "/usr/share/zoneinfo/America/Sao_Paulo";
-    const auto path = folder_ / "cut";
+    const auto path = folder_.path() / "cut";
     for (std::uintmax_t size = 0; size < fs::file_size(source); size += 7) {
         fs::copy_file(source, path, fs::copy_options::overwrite_existing);
         fs::resize_file(path, size);
