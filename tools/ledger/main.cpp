@@ -1,10 +1,16 @@
 // Reads and changes a store from the command line, through the Kit as the program does:
 //
-//     ledger FILE list                        every change, oldest first: minutes and note
-//     ledger FILE add MINUTES [NOTE [DAYS]]   records a change dated now, or that many days ago
-//     ledger FILE fill COUNT                  sets the store up and adds that many changes of past
-//     years ledger FILE balance                     the balance as the program shows it ledger FILE
-//     check                       checks that the file is whole
+//     ledger FILE list
+//         every change, oldest first: minutes and note
+//     ledger FILE add MINUTES [NOTE [DAYS]]
+//         records a change dated now, or that many days ago
+//     ledger FILE fill COUNT [MINUTES]
+//         sets the store up and adds that many changes of past years, of various minutes or of
+//         these
+//     ledger FILE balance
+//         the balance as the program shows it
+//     ledger FILE check
+//         checks that the file is whole
 //
 // End-to-end tests are another process of the system with it, and benchmarks make their stores.
 
@@ -69,7 +75,12 @@ void add(Context& context, Arguments arguments) {
         arguments.size() > 1 ? arguments[1] : "", "manual", context);
 }
 
-/// The first change lies `filledDays` back, the last a moment ago; every third takes time.
+std::int64_t filledMinutes(std::int64_t i) {
+    return i % 3 == 2 ? -(i % 480) - 1 : i % 240 + 1;
+}
+
+/// The first change lies `filledDays` back, the last a moment ago; where they vary, every third
+/// takes time.
 void fill(Context& context, Arguments arguments) {
     TimeBankSettings& settings = StorePreparation::prepare(context);
     StorePreparation::completeOnboarding(context, settings);
@@ -78,7 +89,8 @@ void fill(Context& context, Arguments arguments) {
     const double step = filledDays * secondsPerDay / static_cast<double>(count);
     for (std::int64_t i = 0; i < count; ++i) {
         const platform::Instant date{now - static_cast<double>(count - i) * step};
-        const std::int64_t minutes = i % 3 == 2 ? -(i % 480) - 1 : i % 240 + 1;
+        const std::int64_t minutes =
+            arguments.size() > 1 ? number<std::int64_t>(arguments[1]) : filledMinutes(i);
         context.insert(std::make_unique<BalanceAdjustment>(
             platform::Uuid::random(), date, minutes,
             std::string(filledNotes[static_cast<std::size_t>(i) % filledNotes.size()]),
@@ -117,8 +129,8 @@ const std::map<std::string_view, Command> commands = {{"list", {0, list}},
 int run(Arguments arguments) {
     const auto command = arguments.size() < 2 ? commands.end() : commands.find(arguments[1]);
     if (command == commands.end() || arguments.size() - 2 < command->second.fewestArguments) {
-        std::cerr << "usage: ledger FILE list | add MINUTES [NOTE [DAYS]] | fill COUNT | balance | "
-                     "check\n";
+        std::cerr << "usage: ledger FILE list | add MINUTES [NOTE [DAYS]] | fill COUNT "
+                     "[MINUTES] | balance | check\n";
         return 2;
     }
     const platform::SystemClock clock;
