@@ -1,0 +1,94 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere.controls
+import Quillmere.dashboard
+import Quillmere.theme
+import Quillmere.reports
+
+// One day's sums and changes, as the content of a sheet.
+FocusScope {
+    id: root
+
+    required property SelectedLedgerDay model
+
+    signal done()
+
+    objectName: "calendar.dayDetail"
+    implicitWidth: Math.max(460, toolbar.implicitWidth)
+    implicitHeight: 480
+    Accessible.role: Accessible.Dialog
+    Accessible.name: root.model.title
+    Keys.forwardTo: [scrollKeys]
+    // The only thing to press.
+    Component.onCompleted: toolbar.nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
+
+    ScrollKeys {
+        id: scrollKeys
+
+        page: changes
+    }
+
+    SheetToolbar {
+        id: toolbar
+
+        width: parent.width
+        title: root.model.title
+        confirmText: qsTr("Done")
+        onConfirmed: root.done()
+    }
+
+    Column {
+        id: summary
+
+        anchors.top: toolbar.bottom
+        anchors.topMargin: Theme.spaceL
+        x: Theme.spaceL
+        width: parent.width - 2 * x
+        spacing: Theme.spaceS
+
+        Heading {
+            text: qsTr("Summary")
+        }
+
+        DaySummary {
+            width: parent.width
+            figures: root.model.figures
+        }
+
+        Heading {
+            topPadding: Theme.spaceS
+            text: qsTr("Changes")
+        }
+    }
+
+    ListView {
+        id: changes
+
+        anchors.top: summary.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        bottomMargin: Theme.spaceM
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: root.model.changes
+        T.ScrollBar.vertical: ThinScrollBar {}
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Changes")
+
+        delegate: LedgerTransactionRow {
+            id: row
+
+            required property int index
+
+            x: Theme.spaceL
+            width: changes.width - 2 * x
+
+            Divider {
+                width: parent.width
+                visible: row.index > 0
+            }
+        }
+    }
+}
