@@ -13,7 +13,7 @@ ButtonBase {
 
     padding: 0
     radius: height / 2
-    role: Accessible.CheckBox
+    Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: root.on
     Accessible.onToggleAction: root.clicked()

@@ -8,7 +8,7 @@ ActionRow {
 
     required property url url
 
-    role: Accessible.Link
+    Accessible.role: Accessible.Link
     tint: Theme.primary
     trailingSymbol: "arrow.up.right"
     onClicked: Qt.openUrlExternally(root.url)
