@@ -11,7 +11,7 @@ ButtonBase {
     rightPadding: Theme.spaceM
     radius: Theme.controlRadius - 2
     focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
-    role: Accessible.RadioButton
+    Accessible.role: Accessible.RadioButton
     Accessible.checkable: true
     Accessible.checked: root.checked
     Accessible.onToggleAction: root.clicked()
