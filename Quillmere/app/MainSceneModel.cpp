@@ -2,6 +2,8 @@
 
 #include "Quillmere/dashboard/ContinuousCountdown.h"
 #include "Quillmere/dashboard/DashboardViewModel.h"
+#include "Quillmere/history/HistoryViewModel.h"
+#include "Quillmere/shell/AppStorageController.h"
 #include "Quillmere/shell/StoreSession.h"
 
 #include <map>
@@ -22,6 +24,10 @@ std::map<AppRoute, Screen> screensOf(StoreSession& session,
                                                     application.preferences,
                                                     std::make_unique<ContinuousCountdown>());
     };
+    const auto makeHistory = [&session, application] {
+        return std::make_unique<HistoryViewModel>(session, application.appState,
+                                                  application.settings.storage.mode());
+    };
     const auto makeSettings = [&session, application] {
         return std::make_unique<SettingsViewModel>(session, application.settings);
     };
@@ -29,7 +35,8 @@ std::map<AppRoute, Screen> screensOf(StoreSession& session,
         {AppRoute::overview,
          {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/dashboard/DashboardView.qml")),
           makeDashboard}},
-        {AppRoute::history, blankScreen("qrc:/qt/qml/Quillmere/history/HistoryView.qml")},
+        {AppRoute::history,
+         {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/history/HistoryView.qml")), makeHistory}},
         {AppRoute::reports, blankScreen("qrc:/qt/qml/Quillmere/reports/ReportsView.qml")},
         {AppRoute::settings,
          {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/settings/SettingsView.qml")), makeSettings}},

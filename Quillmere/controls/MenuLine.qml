@@ -9,6 +9,7 @@ Item {
     property string text: ""
     property string symbol: ""
     property bool checked: false
+    property color color: Theme.primary
 
     implicitWidth: row.implicitWidth
     implicitHeight: row.implicitHeight
@@ -32,7 +33,7 @@ Item {
             visible: root.symbol !== ""
             name: root.symbol
             size: 15
-            color: Theme.primary
+            color: root.color
         }
 
         Text {
@@ -40,7 +41,7 @@ Item {
             text: root.text
             textFormat: Text.PlainText
             font: Theme.body
-            color: Theme.primary
+            color: root.color
             Accessible.ignored: true
         }
     }

@@ -8,6 +8,7 @@ T.MenuItem {
     id: root
 
     property string symbol: ""
+    property bool destructive: false
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: Math.max(32, implicitContentHeight + topPadding + bottomPadding)
@@ -30,5 +31,6 @@ T.MenuItem {
         text: root.text
         symbol: root.symbol
         checked: root.checked
+        color: root.destructive ? Theme.alertText : Theme.primary
     }
 }

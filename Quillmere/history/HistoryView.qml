@@ -1,10 +1,123 @@
-import QtQuick
+pragma ComponentBehavior: Bound
 
-// The "Activity" route, without content yet.
-Item {
-    required property QtObject model
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere.controls
+import Quillmere.history
+import Quillmere.theme
+
+// The "Activity" route: every change by its day. A row opens by a click or Enter; with Ctrl and Shift
+// rows are selected, which Delete removes.
+FocusScope {
+    id: root
+
+    required property HistoryViewModel model
+
+    readonly property string title: qsTr("Activity")
 
     objectName: "history.screen"
     Accessible.role: Accessible.Pane
-    Accessible.name: qsTr("Activity")
+    Accessible.name: root.title
+
+    HistoryList {
+        id: list
+
+        anchors.fill: parent
+        focus: true
+        visible: !root.model.isEmpty
+        items: root.model.items
+        Accessible.name: root.title
+        onOpened: row => root.model.open(row)
+        onDeletionRequested: row => root.model.requestDeletionOfSelection(row)
+        onMenuRequested: (row, position) => {
+            menu.row = row;
+            menu.popup(list, position.x, position.y);
+        }
+    }
+
+    EmptyState {
+        anchors.centerIn: parent
+        width: Math.min(360, parent.width - 2 * Theme.spaceXL)
+        visible: root.model.isEmpty
+        symbol: "plus.forwardslash.minus"
+        title: qsTr("No changes yet")
+        text: qsTr("Time you add or subtract appears here.")
+    }
+
+    ProgressRing {
+        anchors.centerIn: parent
+        visible: root.model.isLoading && patience.isOver
+        Accessible.name: qsTr("Loading")
+    }
+
+    Timer {
+        id: patience
+
+        readonly property bool isOver: !running
+
+        interval: 500
+        running: true
+    }
+
+    PopupMenu {
+        id: menu
+
+        property int row: -1
+
+        PopupMenuItem {
+            text: qsTr("Delete")
+            symbol: "trash"
+            destructive: true
+            onTriggered: root.model.requestDeletion(menu.row)
+        }
+    }
+
+    ConfirmationPanel {
+        shown: root.model.isDeletionPending
+        title: root.model.deletionTitle
+        message: root.model.deletionMessage
+        confirmText: root.model.deleteTitle
+        confirmButton.objectName: "history.confirmDelete"
+        onConfirmed: root.model.confirmDeletion()
+        onDismissed: root.model.dismissDeletion()
+    }
+
+    Connections {
+        target: root.model
+
+        function onEditorChanged() {
+            if (root.model.editor === null)
+                return;
+            form.setSource("qrc:/qt/qml/Quillmere/editor/AdjustmentEditorView.qml", {
+                model: root.model.editor,
+                focus: true
+            });
+            sheet.open();
+        }
+    }
+
+    Connections {
+        target: root.model.editor
+
+        function onFinished() {
+            sheet.close();
+        }
+    }
+
+    Sheet {
+        id: sheet
+
+        // Before the form's model goes, its view is gone.
+        onClosed: {
+            form.source = "";
+            root.model.closeEditor();
+            list.takeFocusBack();
+        }
+
+        Loader {
+            id: form
+
+            focus: true
+        }
+    }
 }

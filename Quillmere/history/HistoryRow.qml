@@ -1,0 +1,141 @@
+import QtQuick
+import QtQuick.Templates as T
+import Quillmere.controls
+import Quillmere.dashboard
+import Quillmere.history
+import Quillmere.theme
+
+// One change of the list, under the title of its day where it is the day's first. The rows of a day
+// stand on one card, of which each draws its part.
+FocusScope {
+    id: root
+
+    required property int index
+    required property ledgerTransaction transaction
+    required property string spoken
+    required property string dayTitle
+    required property bool firstOfDay
+    required property bool lastOfDay
+    required property bool selected
+
+    readonly property bool current: ListView.isCurrentItem
+    readonly property int edge: 5
+    readonly property int reach: 40
+
+    signal pressed(modifiers: int)
+    signal menuRequested(position: point)
+
+    implicitHeight: (firstOfDay ? title.height : 0) + card.height + (lastOfDay ? 14 : 0)
+
+    FieldLabel {
+        id: title
+
+        x: Theme.spaceXS
+        width: root.width - 2 * x
+        height: implicitHeight + 8 + Theme.spaceS
+        visible: root.firstOfDay
+        bottomPadding: Theme.spaceS
+        verticalAlignment: Text.AlignBottom
+        text: root.dayTitle
+        elide: Text.ElideRight
+        Accessible.role: Accessible.Heading
+    }
+
+    Item {
+        id: card
+
+        y: root.firstOfDay ? title.height : 0
+        width: root.width
+        height: row.height + (root.firstOfDay ? root.edge : 0) + (root.lastOfDay ? root.edge : 0)
+
+        // The card reaches beyond the row where the day goes on, and its shadow where it ends.
+        Item {
+            x: -root.reach
+            y: root.firstOfDay ? -root.reach : 0
+            width: parent.width + 2 * root.reach
+            height: parent.height + (root.firstOfDay ? root.reach : 0) + (root.lastOfDay ? root.reach : 0)
+            clip: true
+
+            Surface {
+                readonly property real longer: row.height + 2 * root.reach
+
+                x: root.reach
+                y: root.firstOfDay ? root.reach : root.lastOfDay ? card.height - height : -root.reach
+                width: card.width
+                height: root.firstOfDay && root.lastOfDay ? card.height : longer
+                color: Theme.card
+                borderColor: Theme.hairline
+                radius: Theme.cardRadius
+                shadowColor: Theme.shadow
+                shadowBlur: 14
+                shadowOffset: 4
+            }
+        }
+
+        Divider {
+            x: Theme.cardPadding
+            width: parent.width - 2 * x
+            visible: !root.firstOfDay
+        }
+
+        T.Control {
+            id: row
+
+            objectName: "history.item"
+            y: root.firstOfDay ? root.edge : 0
+            width: parent.width
+            height: content.implicitHeight
+            focus: true
+            focusPolicy: root.current ? Qt.StrongFocus : Qt.ClickFocus
+            leftPadding: Theme.cardPadding
+            rightPadding: Theme.cardPadding
+            Accessible.role: Accessible.ListItem
+            Accessible.name: root.spoken
+            Accessible.description: qsTr("Opens this item for editing")
+            Accessible.focusable: true
+            Accessible.selectable: true
+            Accessible.selected: root.selected
+            Accessible.onPressAction: root.pressed(Qt.NoModifier)
+
+            background: Rectangle {
+                x: 6
+                y: 3
+                width: row.width - 2 * x
+                height: row.height - 2 * y
+                radius: Theme.cardRadius - 8
+                color: root.selected ? Theme.tinted(Theme.accent, pointer.pressed ? 0.26 : 0.18)
+                    : Theme.tinted(Theme.primary, pointer.pressed ? 0.07 : pointer.containsMouse ? 0.04 : 0)
+                border.width: root.selected && Theme.highContrast ? 2 : 0
+                border.color: Theme.focus
+
+                Behavior on color { FadeMotion {} }
+
+                FocusRing {
+                    shown: row.visualFocus
+                    radius: parent.radius
+                }
+            }
+
+            contentItem: LedgerTransactionRow {
+                id: content
+
+                transaction: root.transaction
+                Accessible.ignored: true
+            }
+
+            MouseArea {
+                id: pointer
+
+                anchors.fill: parent
+                acceptedButtons: Qt.LeftButton | Qt.RightButton
+                hoverEnabled: true
+                onClicked: mouse => {
+                    if (mouse.button === Qt.RightButton)
+                        root.menuRequested(pointer.mapToItem(root, mouse.x, mouse.y));
+                    else
+                        root.pressed(mouse.modifiers);
+                }
+            }
+        }
+    }
+}
