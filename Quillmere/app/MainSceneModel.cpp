@@ -3,6 +3,7 @@
 #include "Quillmere/dashboard/ContinuousCountdown.h"
 #include "Quillmere/dashboard/DashboardViewModel.h"
 #include "Quillmere/history/HistoryViewModel.h"
+#include "Quillmere/reports/ReportsViewModel.h"
 #include "Quillmere/shell/AppStorageController.h"
 #include "Quillmere/shell/StoreSession.h"
 
@@ -12,10 +13,6 @@
 namespace quillmere {
 
 namespace {
-
-Screen blankScreen(const char* view) {
-    return {QUrl(QString::fromUtf8(view)), [] { return std::make_unique<QObject>(); }};
-}
 
 std::map<AppRoute, Screen> screensOf(StoreSession& session,
                                      const MainSceneModel::Application& application) {
@@ -31,13 +28,18 @@ std::map<AppRoute, Screen> screensOf(StoreSession& session,
     const auto makeSettings = [&session, application] {
         return std::make_unique<SettingsViewModel>(session, application.settings);
     };
+    const auto makeReports = [&session, application] {
+        return std::make_unique<ReportsViewModel>(session, application.appState,
+                                                  application.settings.folders);
+    };
     return {
         {AppRoute::overview,
          {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/dashboard/DashboardView.qml")),
           makeDashboard}},
         {AppRoute::history,
          {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/history/HistoryView.qml")), makeHistory}},
-        {AppRoute::reports, blankScreen("qrc:/qt/qml/Quillmere/reports/ReportsView.qml")},
+        {AppRoute::reports,
+         {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/reports/ReportsView.qml")), makeReports}},
         {AppRoute::settings,
          {QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/settings/SettingsView.qml")), makeSettings}},
     };
