@@ -7,28 +7,19 @@ import Quillmere.theme
 
 // Tells that long work is under way. Work that writes holds the window's input back from its first
 // moment; the panel itself comes into sight when the work takes noticeably long.
-T.Popup {
+ModalPanel {
     id: root
 
     required property BackgroundWork work
 
-    readonly property FocusKeeper keeper: FocusKeeper {}
-
-    parent: T.Overlay.overlay
-    x: Math.round((parent.width - width) / 2)
-    y: Math.round((parent.height - height) / 2)
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    margins: Theme.spaceL
     padding: Theme.spaceXL
     z: 1
-    modal: true
-    focus: true
-    dim: true
+    enter: null
+    exit: null
     closePolicy: T.Popup.NoAutoClose
     visible: root.work.isHoldingInput || root.work.isShown
-    onAboutToShow: root.keeper.take(root.parent.Window.activeFocusItem)
-    onClosed: root.keeper.giveBack(root.parent.Window.activeFocusItem)
 
     T.Overlay.modal: Rectangle {
         color: root.work.isShown ? Theme.scrim : "transparent"
@@ -36,15 +27,7 @@ T.Popup {
         Behavior on color { FadeMotion {} }
     }
 
-    background: Surface {
-        opacity: root.work.isShown ? 1 : 0
-        color: Theme.sheet
-        borderColor: Theme.hairline
-        radius: Theme.sheetRadius
-        shadowColor: Theme.deepShadow
-        shadowBlur: 48
-        shadowOffset: 14
-    }
+    background.opacity: root.work.isShown ? 1 : 0
 
     RowLayout {
         opacity: root.work.isShown ? 1 : 0
