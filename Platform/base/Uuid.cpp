@@ -27,17 +27,21 @@ void fillRandom(std::span<std::uint8_t> bytes) {
     }
 }
 
+// A table, because the kind of digit is not to be foreseen and archives hold many.
+constexpr std::array<std::int8_t, 256> hexadecimalValues = [] {
+    constexpr std::string_view upper = "0123456789ABCDEF";
+    constexpr std::string_view lower = "0123456789abcdef";
+    std::array<std::int8_t, 256> values{};
+    values.fill(-1);
+    for (std::size_t value = 0; value < upper.size(); ++value) {
+        values[static_cast<unsigned char>(upper[value])] = static_cast<std::int8_t>(value);
+        values[static_cast<unsigned char>(lower[value])] = static_cast<std::int8_t>(value);
+    }
+    return values;
+}();
+
 int hexadecimalValue(char character) {
-    if (character >= '0' && character <= '9') {
-        return character - '0';
-    }
-    if (character >= 'A' && character <= 'F') {
-        return character - 'A' + 10;
-    }
-    if (character >= 'a' && character <= 'f') {
-        return character - 'a' + 10;
-    }
-    return -1;
+    return hexadecimalValues[static_cast<unsigned char>(character)];
 }
 
 } // namespace
