@@ -2,6 +2,8 @@
 #include "QuillmereKit/archive/TimeBankArchive.h"
 #include "QuillmereKit/archive/TimeBankArchiveCodingError.h"
 
+#include <algorithm>
+
 namespace quillmere {
 
 namespace {
@@ -136,6 +138,7 @@ void decode(const Object& object, std::string_view key, std::vector<Record>& rec
     if (!array) {
         fail(key);
     }
+    records.reserve(std::min(array->size(), TimeBankArchive::maximumWorkEntries));
     for (const Value element : *array) {
         decode(objectOf(element), records.emplace_back());
     }

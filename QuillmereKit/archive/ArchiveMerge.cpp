@@ -75,11 +75,12 @@ void repair(Context& context, Instant now) {
 TimeBankArchiveMergeResult TimeBankArchive::merge(Context& context, Instant now,
                                                   const ArchiveProgress& progress) const {
     validate();
-    ArchiveProgressMeter meter(progress, recordCount());
+    ArchiveProgressMeter meter(progress, recordCount() + 1);
     const TimeBankArchiveMergeResult result =
         ArchiveMerge(context, exportedAt, now, meter).run(*this);
     repair(context, now);
     context.save();
+    meter.step();
     return result;
 }
 

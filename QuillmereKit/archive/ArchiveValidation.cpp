@@ -4,6 +4,9 @@
 #include "QuillmereKit/rules/QuickActionConfiguration.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <tuple>
 
 namespace quillmere {
@@ -28,12 +31,15 @@ bool hasProperQuickActions(const TimeBankArchive::SettingsRecord& record) {
                                              std::tuple_size_v<QuickActionConfiguration::Presets>;
 }
 
-/// Sorting bounds what identifiers made to collide could cost.
+/// Sorting bounds what identifiers made to collide could cost; any order will do, and this one is
+/// the quickest.
 template <class Record>
 bool hasUniqueIdentifiers(const std::vector<Record>& records) {
     std::vector<platform::Uuid> identifiers(records.size());
     std::ranges::transform(records, identifiers.begin(), &Record::id);
-    std::ranges::sort(identifiers);
+    std::ranges::sort(identifiers, {}, [](const platform::Uuid& id) {
+        return std::bit_cast<std::array<std::uint64_t, 2>>(id.bytes());
+    });
     return std::ranges::adjacent_find(identifiers) == identifiers.end();
 }
 

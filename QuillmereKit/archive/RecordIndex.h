@@ -7,6 +7,7 @@
 #include "QuillmereKit/records/RecordTimestampValidation.h"
 
 #include <unordered_map>
+#include <utility>
 
 namespace quillmere {
 
@@ -25,13 +26,10 @@ public:
         for (R* record : records) {
             normalizeTimes(*record, now);
             R*& kept = records_[record->id()];
-            if (record->modifiedAt() > (kept != nullptr ? kept->modifiedAt() : distantPast)) {
-                kept = record;
-            }
-        }
-        for (R* record : records) {
-            if (record != find(record->id())) {
-                context.remove(*record);
+            const bool isKept =
+                record->modifiedAt() > (kept != nullptr ? kept->modifiedAt() : distantPast);
+            if (R* loser = isKept ? std::exchange(kept, record) : record) {
+                context.remove(*loser);
             }
         }
     }
