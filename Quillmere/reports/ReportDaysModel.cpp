@@ -119,7 +119,7 @@ int ReportDaysModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ReportDaysModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (role < RowRole || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
     const Cell& cell = cells_[static_cast<std::size_t>(index.row())];

@@ -110,6 +110,7 @@ FocusScope {
 
             EmptyState {
                 width: parent.width
+                topPadding: Theme.spaceL
                 visible: root.model.isEmpty
                 symbol: "calendar.badge.minus"
                 title: qsTr("No changes this period")
@@ -143,8 +144,9 @@ FocusScope {
         function onSelectedDayChanged() {
             if (root.model.selectedDay === null)
                 return;
-            content.setSource("DayLedgerSheet.qml", { model: root.model.selectedDay, focus: true });
+            // What is loaded into an open sheet can take the keyboard.
             sheet.open();
+            content.setSource("DayLedgerSheet.qml", { model: root.model.selectedDay, focus: true });
         }
     }
 
