@@ -7,17 +7,16 @@ namespace quillmere {
 namespace {
 
 const char* description(TimeBankArchiveError::Reason reason) {
-    using Reason = TimeBankArchiveError::Reason;
     switch (reason) {
-    case Reason::unsupportedSchema:
+    case TimeBankArchiveError::Reason::unsupportedSchema:
         return "This archive uses unsupported format version ";
-    case Reason::tooManyRecords:
+    case TimeBankArchiveError::Reason::tooManyRecords:
         return "This archive contains too many records to import safely.";
-    case Reason::malformedSchedule:
+    case TimeBankArchiveError::Reason::malformedSchedule:
         return "This archive contains an invalid weekly schedule.";
-    case Reason::malformedQuickActions:
+    case TimeBankArchiveError::Reason::malformedQuickActions:
         return "This archive contains invalid quick-action settings.";
-    case Reason::duplicateIdentifiers:
+    case TimeBankArchiveError::Reason::duplicateIdentifiers:
         return "This archive contains duplicate record identifiers.";
     }
     return "";

@@ -43,8 +43,8 @@ protected:
     Instant before = now - day;
 };
 
-TimeBankArchive::BalanceAdjustmentRecord change(std::int64_t minutes, std::string kind,
-                                                Instant at) {
+TimeBankArchive::BalanceAdjustmentRecord archivedChange(std::int64_t minutes, std::string kind,
+                                                        Instant at) {
     return {uuid(1), at, minutes, " note ", std::move(kind), at, at};
 }
 
@@ -55,8 +55,9 @@ TEST_F(ArchiveMerge, TakesTheNewerCopyAndCountsAll) {
     insertChange(before, 20, uuid(2)).setModifiedAt(now);
     insertChange(before, 30, uuid(3));
     TimeBankArchive archive;
-    archive.balanceAdjustments = {change(11, "manual", before + 1), change(21, "manual", before),
-                                  change(31, "manual", before), change(41, "manual", before)};
+    archive.balanceAdjustments = {
+        archivedChange(11, "manual", before + 1), archivedChange(21, "manual", before),
+        archivedChange(31, "manual", before), archivedChange(41, "manual", before)};
     for (std::uint8_t i = 0; i < 4; ++i) {
         archive.balanceAdjustments[i].id = uuid(i + 1);
     }
@@ -91,7 +92,7 @@ TEST_F(ArchiveMerge, BringsChangesIntoTheirRanges) {
                 insertChange(before, 1, uuid(1));
             }
             TimeBankArchive archive;
-            archive.balanceAdjustments = {change(row.minutes, row.kind, before + 1)};
+            archive.balanceAdjustments = {archivedChange(row.minutes, row.kind, before + 1)};
             merge(archive);
             const auto record = stored().balanceAdjustments.at(0);
             EXPECT_EQ(record.minutes, row.expectedMinutes);
@@ -184,7 +185,7 @@ TEST_F(ArchiveMerge, SavesOnceAndOnlyWhatIsNew) {
     int commits = 0;
     const auto registration = store->onCommit([&commits] { ++commits; });
     TimeBankArchive archive;
-    archive.balanceAdjustments.assign(3000, change(1, "manual", before));
+    archive.balanceAdjustments.assign(3000, archivedChange(1, "manual", before));
     EXPECT_THROW(merge(archive), TimeBankArchiveError);
     EXPECT_EQ(commits, 0);
 
