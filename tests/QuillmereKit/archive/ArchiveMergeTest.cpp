@@ -110,20 +110,23 @@ TEST_F(ArchiveMerge, BringsTimesAndWorkInOrder) {
         Instant modifiedAt;
         Instant expectedEnd;
         Instant expectedModifiedAt;
+        Instant exportedAt;
     };
     const Instant start = now - 2 * hour;
+    const Instant recently = now - hour;
     const Row rows[] = {
-        {"ended", start + minute, start, start + minute, start},
-        {"running ends with the export", std::nullopt, start, now - hour, start},
-        {"end before the start is repaired", start - 1, start, start, now},
-        {"a little ahead", start, now + 4 * minute, start, now + 4 * minute},
-        {"too far ahead", start, now + 10 * minute, start, now},
+        {"ended", start + minute, start, start + minute, start, recently},
+        {"running ends with the export", std::nullopt, start, recently, start, recently},
+        {"running since after the export", std::nullopt, start, start, start, start - hour},
+        {"end before the start is repaired", start - 1, start, start, now, recently},
+        {"a little ahead", start, now + 4 * minute, start, now + 4 * minute, recently},
+        {"too far ahead", start, now + 10 * minute, start, now, recently},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         DataStoreMaintenance::eraseAll(*context);
         TimeBankArchive archive;
-        archive.exportedAt = now - hour;
+        archive.exportedAt = row.exportedAt;
         archive.workEntries = {{uuid(1), start, row.endedAt, 300, "", now + day, row.modifiedAt}};
         EXPECT_EQ(merge(archive).inserted, 1);
         const auto entry = stored().workEntries.at(0);

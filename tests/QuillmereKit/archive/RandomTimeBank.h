@@ -54,8 +54,8 @@ private:
 
     /// Copies of a schedule apply from one day on, which few schedules share.
     Instant onDayOf(int id) {
-        return berlinCalendar.startOfDay(now_ - id / 3 * day) +
-               static_cast<double>(below(20)) * hour;
+        const int days = id / 3;
+        return berlinCalendar.startOfDay(now_ - days * day) + static_cast<double>(below(20)) * hour;
     }
 
     std::int64_t number() {
