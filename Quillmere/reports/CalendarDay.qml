@@ -44,8 +44,8 @@ Item {
         radius: 11
         color: root.changed ? Theme.tinted(root.tint, root.strength)
                             : Theme.tinted(Theme.primary, 0.05)
-        border.width: root.today ? 1.5 : Theme.highContrast ? Theme.hairlineWidth : 0
-        border.color: root.today ? Theme.accentText : Theme.controlBorder
+        border.width: Theme.highContrast ? Theme.hairlineWidth : 0
+        border.color: Theme.controlBorder
 
         Behavior on color { FadeMotion {} }
 
@@ -55,13 +55,35 @@ Item {
         }
     }
 
+    Rectangle {
+        anchors.centerIn: day
+        width: Math.round(22 * Theme.textScale)
+        height: width
+        radius: width / 2
+        visible: root.today
+        color: Theme.prominent
+    }
+
     PlainText {
+        id: day
+
         x: 9
         y: 7
         text: root.number
-        font: root.today ? Theme.captionBold : Theme.captionMedium
-        color: root.today ? Theme.accentText : Theme.primary
+        font: root.today ? Theme.captionSemibold : Theme.captionMedium
+        color: root.today ? Theme.prominentText : Theme.primary
         Accessible.ignored: true
+    }
+
+    // The direction, for whom the colours are one.
+    Symbol {
+        anchors.right: parent.right
+        anchors.rightMargin: 9
+        anchors.verticalCenter: day.verticalCenter
+        visible: root.changed
+        name: root.takesTime ? "minus" : "plus"
+        size: 9
+        color: root.ink
     }
 
     MonospacedDigits {

@@ -43,6 +43,7 @@ FocusScope {
     objectName: "calendar.grid"
     implicitHeight: column.implicitHeight
     Accessible.role: Accessible.Grouping
+    Accessible.name: qsTr("Daily overview")
     Keys.onPressed: event => event.accepted = root.handleKey(event.key)
 
     Connections {

@@ -17,7 +17,8 @@ FocusScope {
 
     objectName: "calendar.dayDetail"
     implicitWidth: Math.max(460, toolbar.implicitWidth)
-    implicitHeight: 480
+    // Grows with its list; the sheet keeps within the window.
+    implicitHeight: Math.max(460, changes.y + changes.contentHeight + changes.bottomMargin)
     Accessible.role: Accessible.Dialog
     Accessible.name: root.model.title
     Keys.forwardTo: [scrollKeys]

@@ -13,7 +13,7 @@ SoftCard {
     required property string periodTitle
 
     contentItem: ColumnLayout {
-        spacing: 2
+        spacing: Theme.spaceXS
 
         PlainText {
             text: qsTr("NET CHANGE")
