@@ -1,27 +1,46 @@
 import QtQuick
+import QtQuick.Templates as T
 import Quillmere.controls
 import Quillmere.theme
 
 // Something that is on or off. It never changes by itself: `clicked` asks the host for it, and `on`
 // is what then holds. `text` is its name.
-ButtonBase {
+T.CheckBox {
     id: root
 
     property bool on: false
 
     readonly property real gap: 2
 
+    implicitWidth: 36
+    implicitHeight: 21
     padding: 0
-    radius: height / 2
+    hoverEnabled: true
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    checked: root.on
+    nextCheckState: () => root.checkState
     Accessible.role: Accessible.CheckBox
-    Accessible.checkable: true
-    Accessible.checked: root.on
-    Accessible.onToggleAction: root.clicked()
+    Accessible.name: root.text
+    Accessible.onPressAction: root.ask()
+    Accessible.onToggleAction: root.ask()
+    Keys.onReturnPressed: event => root.askByKey(event)
+    Keys.onEnterPressed: event => root.askByKey(event)
+    Keys.onPressed: event => event.accepted = event.isAutoRepeat && event.key === Qt.Key_Space
+    Keys.onReleased: event => event.accepted = event.isAutoRepeat && event.key === Qt.Key_Space
+
+    function ask() {
+        if (root.enabled)
+            root.clicked();
+    }
+
+    // A key that is held down asks once.
+    function askByKey(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            root.clicked();
+    }
 
     background: Rectangle {
-        implicitWidth: 36
-        implicitHeight: 21
-        radius: root.radius
+        radius: height / 2
         color: root.on ? Theme.toggleOn : Theme.toggleOff
         border.width: Theme.highContrast ? 2 : Theme.hairlineWidth
         border.color: root.on && !Theme.highContrast ? "transparent" : Theme.controlBorder
@@ -44,5 +63,10 @@ ButtonBase {
 
             Behavior on x { SpringMotion {} }
         }
+    }
+
+    FocusRing {
+        shown: root.visualFocus
+        radius: root.height / 2
     }
 }

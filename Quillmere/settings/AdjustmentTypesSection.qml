@@ -71,6 +71,7 @@ FormSection {
     }
 
     FormRow {
+        contentInset: 9
         Accessible.ignored: true
 
         NewCategoryField {

@@ -14,6 +14,7 @@ FormRow {
     }
 
     symbol: "tag"
+    overhang: 7
 
     IconButton {
         id: button

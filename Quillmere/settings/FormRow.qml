@@ -15,17 +15,30 @@ Item {
     property string value: ""
     // A remark rather than a setting.
     property bool note: false
+    // Room above and below the content.
+    property int contentInset: 6
+    // What the content may reach towards the edge, for buttons without a frame.
+    property int overhang: 0
     // The first row of its group has no hairline above it.
     property bool first: false
+    // Whether a press anywhere in the row counts.
+    property bool pressable: false
     default property alias content: trailing.data
+
+    signal pressed()
 
     readonly property int edge: 15
 
     implicitWidth: parent?.width ?? 0
-    implicitHeight: Math.max(42, labels.height + 2 * 11, trailing.height + 2 * 6)
+    implicitHeight: Math.max(42, labels.height + 2 * 11, trailing.height + 2 * contentInset)
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
     Accessible.description: root.detail || root.value
+
+    TapHandler {
+        enabled: root.pressable
+        onTapped: root.pressed()
+    }
 
     Divider {
         width: parent.width
@@ -78,7 +91,7 @@ Item {
 
         anchors.verticalCenter: parent.verticalCenter
         anchors.right: parent.right
-        anchors.rightMargin: root.edge
+        anchors.rightMargin: root.edge - root.overhang
         spacing: Theme.spaceS
 
         PlainText {

@@ -11,19 +11,17 @@ FormRow {
 
     signal toggled()
 
+    pressable: true
     Accessible.ignored: true
+    onPressed: {
+        control.forceActiveFocus(Qt.MouseFocusReason);
+        root.toggled();
+    }
 
     ToggleSwitch {
         id: control
 
         text: root.text
         onClicked: root.toggled()
-    }
-
-    TapHandler {
-        onTapped: {
-            control.forceActiveFocus(Qt.MouseFocusReason);
-            root.toggled();
-        }
     }
 }

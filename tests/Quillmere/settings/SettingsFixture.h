@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/autostart/LoginItem.h"
+#include "Platform/files/UserFolders.h"
 #include "Quillmere/settings/SettingsViewModel.h"
 #include "Quillmere/shell/AppStorageController.h"
 #include "Quillmere/shell/PreferencesFollower.h"

@@ -1,6 +1,7 @@
 #include "Quillmere/settings/SettingsViewModel.h"
 
 #include "Platform/files/Files.h"
+#include "Platform/files/UserFolders.h"
 #include "Quillmere/settings/AppVersion.h"
 #include "Quillmere/shell/AppStorageController.h"
 #include "Quillmere/shell/PreferencesFollower.h"
