@@ -85,6 +85,9 @@ function(quillmere_qml_module folder)
     QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES}
     RESOURCES ${ARG_RESOURCES})
   target_link_libraries(${target} PUBLIC quillmere_options Qt6::Quick ${ARG_LINK})
+  # Byte code spares the program reading QML when it starts; the C++ that could be made of bindings as
+  # well takes minutes to compile and shows no sooner.
+  set_target_properties(${target} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
   quillmere_unite(${target})
   # What Qt generates is not ours to warn about.
   get_target_property(sources ${target} SOURCES)
