@@ -58,9 +58,9 @@ private:
             text.resize(place);
             break;
         default:
-            std::ranges::transform(
-                text.begin() + place, text.begin() + place + length, text.begin() + place,
-                [this](char c) { return static_cast<char>(c ^ (1 << below(8))); });
+            for (char& character : std::span(text).subspan(place, length)) {
+                character = static_cast<char>(character ^ (1 << below(8)));
+            }
         }
     }
 
