@@ -29,7 +29,7 @@ public:
 
     std::string next() {
         std::string text = corpus_[below(corpus_.size())];
-        for (std::size_t count = 1 + below(4); count > 0; --count) {
+        for (std::size_t count = 1 + below(3); count > 0; --count) {
             mutate(text);
         }
         return text;
@@ -41,7 +41,7 @@ private:
     void mutate(std::string& text) {
         const std::size_t place = below(text.size() + 1);
         const std::size_t length = below(std::min<std::size_t>(text.size() - place, 64) + 1);
-        switch (below(6)) {
+        switch (below(10)) {
         case 0:
             text.erase(place, length);
             break;
@@ -57,10 +57,20 @@ private:
         case 4:
             text.resize(place);
             break;
-        default:
+        case 5:
             for (char& character : std::span(text).subspan(place, length)) {
                 character = static_cast<char>(character ^ (1 << below(8)));
             }
+            break;
+        default: // leaves the text well formed more often than not
+            changeDigit(text, place);
+        }
+    }
+
+    void changeDigit(std::string& text, std::size_t place) {
+        const std::size_t digit = text.find_first_of("0123456789", place);
+        if (digit != std::string::npos) {
+            text[digit] = static_cast<char>('0' + below(10));
         }
     }
 
