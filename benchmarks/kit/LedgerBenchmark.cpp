@@ -3,64 +3,25 @@
 
 #include "QuillmereKit/calculation/BalanceTrend.h"
 #include "QuillmereKit/calculation/TimeBankCalculator.h"
-#include "QuillmereKit/records/LedgerRow.h"
+#include "benchmarks/kit/FiveYears.h"
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <array>
-#include <random>
 #include <vector>
 
 namespace quillmere {
 
 namespace {
 
-using platform::Instant;
-
-constexpr Instant now{1'780'000'000};
-constexpr double secondsADay = 86'400;
-constexpr std::size_t changeCount = 100'000;
-
-platform::Calendar berlin() {
-    return {platform::TimeZone::named("Europe/Berlin").value(),
-            platform::Region::fromLocale("de_DE")};
-}
-
-std::vector<LedgerRow> makeRows() {
-    std::mt19937_64 random(1);
-    std::vector<LedgerRow> rows;
-    BalanceAdjustmentValues values;
-    for (std::size_t i = 0; i < changeCount; ++i) {
-        values.id = platform::Uuid::random();
-        values.date = now - static_cast<double>(random() % 157'680'000);
-        values.minutes = static_cast<std::int64_t>(random() % 2881) - 1440;
-        rows.push_back(LedgerRow::make(platform::store::RowRef{1}, values).value());
-    }
-    std::ranges::sort(rows, [](const LedgerRow& a, const LedgerRow& b) { return a < b; });
-    return rows;
-}
+using namespace benchmarks;
 
 const std::vector<LedgerRow>& rows() {
-    static const std::vector<LedgerRow> shared = makeRows();
-    return shared;
+    return fiveYears();
 }
 
-/// The columns a sum needs and nothing else.
-struct Columns {
-    std::vector<double> dates;
-    std::vector<std::int64_t> minutes;
-};
-
 const Columns& columns() {
-    static const Columns shared = [] {
-        Columns made;
-        for (const LedgerRow& row : rows()) {
-            made.dates.push_back(row.date.secondsSince1970);
-            made.minutes.push_back(row.minutes);
-        }
-        return made;
-    }();
+    static const Columns shared(rows());
     return shared;
 }
 
