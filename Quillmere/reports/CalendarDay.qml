@@ -82,7 +82,7 @@ Item {
         anchors.verticalCenter: day.verticalCenter
         visible: root.changed
         name: root.takesTime ? "minus" : "plus"
-        size: 9
+        size: 11
         color: root.ink
     }
 

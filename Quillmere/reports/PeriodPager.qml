@@ -27,7 +27,7 @@ Row {
 
     PlainText {
         // The buttons stay where they are from one title to the next.
-        width: Math.max(implicitWidth + 2 * Theme.spaceS, Math.round(176 * Theme.textScale))
+        width: Math.max(implicitWidth + 2 * Theme.spaceS, Math.round(200 * Theme.textScale))
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignHCenter
         text: root.title
