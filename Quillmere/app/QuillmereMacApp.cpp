@@ -84,7 +84,10 @@ bool QuillmereMacApp::show() {
         return false;
     }
     // Drawn after the first frame; only window managers that know no desktop files ask for it.
-    QTimer::singleShot(0, this, [this] { mainWindow()->setIcon(QIcon(windowIcon)); });
+    QTimer::singleShot(0, this, [this] {
+        QGuiApplication::setWindowIcon(QIcon(windowIcon));
+        mainWindow()->setIcon(QGuiApplication::windowIcon());
+    });
     return true;
 }
 

@@ -7,6 +7,7 @@ ButtonBase {
     id: root
 
     property color tint: Theme.accentText
+    property color symbolTint: tint
     property string trailingSymbol: ""
     // The first row of its group has no hairline above it.
     property bool first: false
@@ -25,7 +26,8 @@ ButtonBase {
     font: Theme.body
 
     Divider {
-        width: root.width
+        x: Theme.hairlineWidth
+        width: root.width - 2 * x
         visible: !root.first
     }
 
@@ -43,7 +45,7 @@ ButtonBase {
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             size: 16
-            color: root.tint
+            color: root.symbolTint
         }
 
         Text {

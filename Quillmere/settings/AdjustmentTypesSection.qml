@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Quillmere.controls
 import Quillmere.settings
 
 // Which categories the forms offer.

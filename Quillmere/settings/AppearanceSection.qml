@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.controls
 import Quillmere.settings
 
 // The colour scheme of all windows.

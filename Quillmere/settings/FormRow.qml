@@ -41,7 +41,8 @@ Item {
     }
 
     Divider {
-        width: parent.width
+        x: Theme.hairlineWidth
+        width: parent.width - 2 * x
         visible: !root.first
     }
 

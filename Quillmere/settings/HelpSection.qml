@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.controls
 import Quillmere.settings
 
 // Where to find help, and which version this is.

@@ -10,6 +10,7 @@ ActionRow {
 
     Accessible.role: Accessible.Link
     tint: Theme.primary
+    symbolTint: Theme.secondary
     trailingSymbol: "arrow.up.right"
     onClicked: Qt.openUrlExternally(root.url)
 }

@@ -1,7 +1,6 @@
 import QtQuick
 import Quillmere.controls
 import Quillmere.settings
-import Quillmere.theme
 
 // The program's place on the desktop.
 FormSection {

@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.controls
 import Quillmere.settings
 
 // How the time bank is kept.
