@@ -19,9 +19,9 @@ protected:
     [[nodiscard]] std::string stored() const {
         using Values = WorkEntryValues;
         std::string text;
+        const auto other = store->makeContext({clock, calendars});
         for (const WorkEntry* entry :
-             store->makeContext({clock, calendars})
-                 ->fetch<WorkEntry>({}, platform::store::Sort<WorkEntry>{}.by<&Values::id>())) {
+             other->fetch<WorkEntry>({}, platform::store::Sort<WorkEntry>{}.by<&Values::id>())) {
             text += std::to_string(entry->id().bytes().back()) + (entry->isRunning() ? "* " : " ");
         }
         return text;
