@@ -1,12 +1,20 @@
 import QtQuick
 import QtQuick.Dialogs
 import Quillmere.settings
+import Quillmere.share
 
-// Chooses an archive. Open as long as it exists.
-FileDialog {
+// Chooses an archive.
+ReachableFileDialog {
     id: root
 
     required property DataManagementViewModel model
+
+    readonly property bool shown: root.model.showingArchiveImporter
+
+    onShownChanged: {
+        if (root.shown)
+            root.open();
+    }
 
     title: qsTr("Import data archive")
     fileMode: FileDialog.OpenFile
@@ -14,5 +22,4 @@ FileDialog {
     nameFilters: [qsTr("JSON files (*.json)"), qsTr("All files (*)")]
     onAccepted: root.model.readArchive([root.selectedFile])
     onRejected: root.model.readArchive([])
-    Component.onCompleted: root.open()
 }

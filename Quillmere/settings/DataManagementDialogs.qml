@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Quillmere.controls
 import Quillmere.settings
@@ -20,11 +18,8 @@ Item {
             notice.close();
     }
 
-    Loader {
-        active: root.model.showingArchiveImporter
-        sourceComponent: ArchiveDialog {
-            model: root.model
-        }
+    ArchiveDialog {
+        model: root.model
     }
 
     ConfirmationPanel {

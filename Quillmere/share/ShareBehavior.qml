@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Quillmere.controls
 import Quillmere.share
@@ -41,14 +39,11 @@ Item {
         }
     }
 
-    Loader {
-        active: root.share.step === FileShare.Choosing
-        sourceComponent: SaveDialog {
-            share: root.share
-            title: root.title
-            suffix: root.suffix
-            nameFilters: root.nameFilters
-        }
+    SaveDialog {
+        share: root.share
+        title: root.title
+        suffix: root.suffix
+        nameFilters: root.nameFilters
     }
 
     AlertPanel {

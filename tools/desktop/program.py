@@ -52,6 +52,18 @@ class Program:
 
         return self._eventually(careful, what, limit)
 
+    def reach(self, role, name):
+        """Gives an element the keyboard, which brings it into sight where its page scrolls."""
+
+        def look():
+            for found in self.root().descendants():
+                if (found.role, found.name) == (role, name):
+                    found.focus()
+                    return found if {"focused", "showing"} <= found.states else None
+            return None
+
+        return self.await_true(look, f"a {role} named {name!r} can be reached")
+
     def press(self, role, name):
         self.await_element(role, name).press()
 

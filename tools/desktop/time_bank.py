@@ -50,6 +50,25 @@ class TimeBank(Program):
         self.press("button", "Undo")
         self.await_absence("button", "Undo")
 
+    def open_settings(self):
+        """Opens the settings window, which takes the keyboard."""
+        self.await_active()
+        self.keys("ctrl+comma")
+        self.await_element("heading", "Appearance")
+
+    def export_archive(self):
+        """Exports to where the dialog stands, under the name that it offers."""
+        self.reach("button", "Export data archive").press()
+        self.press("button", "Save")
+        self.await_absence("button", "Save")
+
+    def choose_archive(self, file):
+        """Chooses an archive where the dialog stands."""
+        self.reach("button", "Import data archive").press()
+        self.await_element("list item", file).press()
+        self.press("button", "Open")
+        self.await_absence("button", "Open")
+
     def quit(self):
         self.await_active()
         self.keys("ctrl+q")
