@@ -1,23 +1,26 @@
 import QtQuick
+import QtQuick.Templates as T
 import Quillmere.controls
 import Quillmere.theme
 
 // A segment of a SegmentedPicker, raised while it is the choice.
-ButtonBase {
+T.RadioButton {
     id: root
 
-    padding: 0
+    readonly property real radius: Theme.controlRadius - 2
+
+    implicitWidth: Math.max(72, implicitContentWidth + leftPadding + rightPadding)
     leftPadding: Theme.spaceM
     rightPadding: Theme.spaceM
-    radius: Theme.controlRadius - 2
-    focusPolicy: checked ? Qt.StrongFocus : Qt.ClickFocus
+    hoverEnabled: true
+    focusPolicy: checked || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     Accessible.role: Accessible.RadioButton
-    Accessible.checkable: true
-    Accessible.checked: root.checked
+    Accessible.name: root.text
+    // Qt 6.4 has no click() and loses what assistive technology presses.
+    Accessible.onPressAction: root.clicked()
     Accessible.onToggleAction: root.clicked()
 
     background: Surface {
-        implicitWidth: 72
         color: root.checked ? Theme.segment
             : Theme.tinted(Theme.primary, root.down ? 0.07 : root.hovered ? 0.035 : 0)
         borderColor: Theme.controlBorder
@@ -32,5 +35,10 @@ ButtonBase {
         text: root.text
         font: root.font
         color: root.checked ? Theme.primary : Theme.secondary
+    }
+
+    FocusRing {
+        shown: root.visualFocus
+        radius: root.radius
     }
 }

@@ -8,7 +8,7 @@ import Quillmere.theme
 // One of a few choices, side by side in segments of one width. One stop for Tab; the arrow keys
 // choose. It never changes by itself: `activated` asks the host for the choice, and `currentIndex`
 // is what then holds. The host sets Accessible.name.
-T.Control {
+T.GroupBox {
     id: root
 
     required property list<string> titles
@@ -28,7 +28,6 @@ T.Control {
     padding: 2
     font: Theme.subheadlineMedium
     opacity: enabled ? 1 : Theme.disabledOpacity
-    Accessible.role: Accessible.Grouping
 
     background: Rectangle {
         radius: Theme.controlRadius

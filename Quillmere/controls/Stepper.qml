@@ -4,59 +4,45 @@ import Quillmere.controls
 import Quillmere.theme
 
 // A whole number, a step less or more by two buttons, the arrow keys or assistive technology; Home
-// and End go as far as it may. It asks the host for each change with `modified`, never for less than
-// `from` or more than `to`. The host shows the number and sets Accessible.name.
-T.Control {
+// and End go as far as it may. `modified` tells the host the number, which is never less than `from`
+// nor more than `to`. The host shows it and sets Accessible.name.
+T.SpinBox {
     id: root
 
-    property int value: 0
-    property int from: 0
-    property int to: 99
-    readonly property int minimumValue: from
-    readonly property int maximumValue: to
-    property int stepSize: 1
+    readonly property real half: (width - 1) / 2
 
     signal modified(value: int)
 
-    function step(distance: int): void {
-        const target = Math.max(from, Math.min(to, value + distance));
-        if (enabled && target !== value)
-            modified(target);
-    }
-
-    function distanceOf(key: int): int {
-        switch (key) {
-        case Qt.Key_Left:
-        case Qt.Key_Down:
-        case Qt.Key_Minus:
-            return -stepSize;
-        case Qt.Key_Right:
-        case Qt.Key_Up:
-        case Qt.Key_Plus:
-            return stepSize;
-        case Qt.Key_Home:
-            return from - value;
-        case Qt.Key_End:
-            return to - value;
-        default:
-            return 0;
-        }
-    }
-
-    implicitWidth: implicitContentWidth
+    implicitWidth: 2 * 38 + 1
     implicitHeight: Theme.compactControlHeight
     focusPolicy: Qt.StrongFocus
+    hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.SpinBox
     Accessible.focusable: root.enabled
-    Accessible.onIncreaseAction: root.step(root.stepSize)
-    Accessible.onDecreaseAction: root.step(-root.stepSize)
-    // Assistive technology writes the value itself.
+    Accessible.onIncreaseAction: root.increase()
+    Accessible.onDecreaseAction: root.decrease()
     onValueChanged: root.modified(root.value)
+    Keys.onLeftPressed: root.decrease()
+    Keys.onRightPressed: root.increase()
     Keys.onPressed: event => {
-        const distance = root.distanceOf(event.key);
-        event.accepted = distance !== 0;
-        root.step(distance);
+        switch (event.key) {
+        case Qt.Key_Minus:
+            root.decrease();
+            break;
+        case Qt.Key_Plus:
+            root.increase();
+            break;
+        case Qt.Key_Home:
+            root.modified(root.from);
+            break;
+        case Qt.Key_End:
+            root.modified(root.to);
+            break;
+        default:
+            return;
+        }
+        event.accepted = true;
     }
 
     background: Rectangle {
@@ -64,27 +50,31 @@ T.Control {
         color: Theme.control
         border.width: Theme.hairlineWidth
         border.color: Theme.controlBorder
-    }
-
-    contentItem: Row {
-        StepperButton {
-            height: root.height
-            symbol: "minus"
-            usable: root.value > root.from
-            onClicked: root.step(-root.stepSize)
-        }
 
         Divider {
-            anchors.verticalCenter: parent.verticalCenter
+            x: root.half
+            y: 6
             height: root.height - 12
         }
+    }
 
-        StepperButton {
-            height: root.height
-            symbol: "plus"
-            usable: root.value < root.to
-            onClicked: root.step(root.stepSize)
-        }
+    down.indicator: StepperButton {
+        width: root.half
+        height: root.height
+        symbol: "minus"
+        usable: root.value > root.from
+        pressed: root.down.pressed
+        hovered: root.down.hovered
+    }
+
+    up.indicator: StepperButton {
+        x: root.half + 1
+        width: root.half
+        height: root.height
+        symbol: "plus"
+        usable: root.value < root.to
+        pressed: root.up.pressed
+        hovered: root.up.hovered
     }
 
     FocusRing {

@@ -123,6 +123,10 @@ ListView {
         }
     }
 
+    function restoreOrder(): void {
+        order.restore();
+    }
+
     model: root.items
     topMargin: 10
     bottomMargin: 10
@@ -133,6 +137,10 @@ ListView {
     highlightFollowsCurrentItem: false
     T.ScrollBar.vertical: ThinScrollBar {}
     Accessible.role: Accessible.List
+    onCountChanged: {
+        if (currentIndex < 0 && count > 0)
+            currentIndex = 0;
+    }
     Keys.onPressed: event => {
         if (count === 0 || currentIndex < 0)
             return;
@@ -142,11 +150,19 @@ ListView {
         event.accepted = target > -2 || act(event);
     }
 
+    ReadingOrder {
+        id: order
+
+        container: root.contentItem
+    }
+
     delegate: HistoryRow {
         id: row
 
         x: root.sideMargin
         width: root.width - 2 * root.sideMargin
+        keyHandler: root
+        onYChanged: Qt.callLater(root.restoreOrder)
         onPressed: modifiers => root.press(row.index, modifiers)
         onMenuRequested: position => root.menuRequested(row.index, row.mapToItem(root, position.x, position.y))
     }

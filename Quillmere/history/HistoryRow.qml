@@ -17,6 +17,8 @@ FocusScope {
     required property bool firstOfDay
     required property bool lastOfDay
     required property bool selected
+    // Gets the keys before the row does.
+    required property Item keyHandler
 
     readonly property bool current: ListView.isCurrentItem
     readonly property int edge: 5
@@ -39,6 +41,7 @@ FocusScope {
         text: root.dayTitle
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading
+        Accessible.ignored: !root.firstOfDay
     }
 
     Item {
@@ -78,7 +81,8 @@ FocusScope {
             visible: !root.firstOfDay
         }
 
-        T.Control {
+        // Of the templates only this one is a list item to assistive technology.
+        T.ItemDelegate {
             id: row
 
             objectName: "history.item"
@@ -86,10 +90,10 @@ FocusScope {
             width: parent.width
             height: content.implicitHeight
             focus: true
-            focusPolicy: root.current ? Qt.StrongFocus : Qt.ClickFocus
+            focusPolicy: root.current || row.activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             leftPadding: Theme.cardPadding
             rightPadding: Theme.cardPadding
-            Accessible.role: Accessible.ListItem
+            Keys.forwardTo: [root.keyHandler]
             Accessible.name: root.spoken
             Accessible.description: qsTr("Opens this item for editing")
             Accessible.focusable: true

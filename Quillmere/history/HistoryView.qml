@@ -64,6 +64,8 @@ FocusScope {
 
         property int row: -1
 
+        objectName: "history.menu"
+
         PopupMenuItem {
             text: qsTr("Delete")
             symbol: "trash"

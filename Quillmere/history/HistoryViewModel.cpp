@@ -130,8 +130,10 @@ void HistoryViewModel::confirmDeletion() {
 }
 
 void HistoryViewModel::setPendingDeletion(Refs refs) {
-    pendingDeletion_ = std::move(refs);
-    emit pendingDeletionChanged();
+    if (pendingDeletion_ != refs) {
+        pendingDeletion_ = std::move(refs);
+        emit pendingDeletionChanged();
+    }
 }
 
 void HistoryViewModel::deleteOne(RowRef ref) {
