@@ -2,7 +2,6 @@ import QtQuick
 import Quillmere.composer
 import Quillmere.controls
 import Quillmere.editor
-import Quillmere.settings
 import Quillmere.theme
 
 // The form for a change that is there already, or for a new one. Whoever shows it makes a new view

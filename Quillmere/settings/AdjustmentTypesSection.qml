@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Quillmere.controls
 import Quillmere.settings
 
 // Which categories the forms offer.

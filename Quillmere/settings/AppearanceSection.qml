@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmere.controls
 import Quillmere.settings
 
 // The colour scheme of all windows.

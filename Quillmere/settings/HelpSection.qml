@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmere.controls
 import Quillmere.settings
 
 // Where to find help, and which version this is.

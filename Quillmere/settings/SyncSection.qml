@@ -1,4 +1,5 @@
 import QtQuick
+import Quillmere.controls
 import Quillmere.settings
 
 // How the time bank is kept.

@@ -19,6 +19,7 @@ Column {
     FieldLabel {
         x: root.inset
         width: root.width - 2 * root.inset
+        visible: root.title !== ""
         text: root.title
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading
