@@ -23,8 +23,9 @@ constexpr std::string_view blanks = " \t\r";
 
 std::string_view trimmed(std::string_view text) {
     const std::size_t start = text.find_first_not_of(blanks);
-    return start == text.npos ? std::string_view()
-                              : text.substr(start, text.find_last_not_of(blanks) - start + 1);
+    return start == std::string_view::npos
+               ? std::string_view()
+               : text.substr(start, text.find_last_not_of(blanks) - start + 1);
 }
 
 /// The keys of the main group.
@@ -37,7 +38,8 @@ Keys keysOf(std::string_view text) {
         start = end + 1;
         if (line.starts_with('[')) {
             inGroup = line == groupHeader;
-        } else if (const std::size_t equals = line.find('='); inGroup && equals != line.npos) {
+        } else if (const std::size_t equals = line.find('=');
+                   inGroup && equals != std::string_view::npos) {
             keys.emplace(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)));
         }
     }

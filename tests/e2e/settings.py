@@ -1,6 +1,8 @@
 """The settings: in the main window, and in a window of their own."""
 import json
+import sqlite3
 import unittest
+from contextlib import closing
 
 from story import Story
 
@@ -31,9 +33,11 @@ class Settings(Story):
         program.press("combo box", "Category")
         program.await_element("list item", "Other")
         names = [item.name for item in program.root().find_all("list item")]
-        program.keys("Escape", "Escape")
+        program.keys("Escape")
+        program.await_absence("list item", "Other")
+        program.keys("Escape")
         program.await_composer_closed()
-        return [name for name in names if "," not in name]
+        return {name for name in names if "," not in name}
 
     def preferences(self):
         return json.loads((self.desktop.home / PREFERENCES).read_text())
@@ -65,15 +69,17 @@ class Settings(Story):
         program.keys("ctrl+1")
         program.await_dashboard()
         self.assertEqual(self.offered(program),
-                         ["Appointment", "Personal errands", "Other", "School run"])
-        program.take("1", category="School run")
-        program.await_recent("School run, minus 1 hours, 0 minutes")
+                         {"Appointment", "Personal errands", "Other", "School run"})
+        program.take("1", "Fetched them", "School run")
+        program.await_recent("Fetched them, minus 1 hours, 0 minutes")
         program.keys("ctrl+4")
         program.press("button", "Remove School run")
         program.await_absence("button", "Remove School run")
         program.keys("ctrl+1")
-        program.await_recent("School run, minus 1 hours, 0 minutes")
-        self.assertEqual(self.offered(program), ["Appointment", "Personal errands", "Other"])
+        program.await_dashboard()
+        self.assertEqual(self.offered(program), {"Appointment", "Personal errands", "Other"})
+        with closing(sqlite3.connect(self.store)) as store:
+            self.assertIn("custom:U2Nob29sIHJ1bg==", "".join(store.iterdump()))
 
     def test_the_theme_changes_everywhere_at_once(self):
         program = self.start()
@@ -94,9 +100,10 @@ class Settings(Story):
                            "both windows follow another program")
 
     def is_dark(self, program, window):
+        """By the ground in the lower right corner, which no other window covers."""
         left, top, width, height = program.geometry(window)
-        _, _, rows = picture.cut(self.desktop.screen(), left, top + height - 4, width, 4)
-        return max(rows[0][:3]) < 128
+        _, _, rows = picture.cut(self.desktop.screen(), left, top + height - 4, width, 1)
+        return max(rows[0][-12:]) < 128
 
     def test_the_window_works_on_the_first_run(self):
         program = self.start()
@@ -106,7 +113,7 @@ class Settings(Story):
         settings = program.windows(other_than=main)[0]
         self.assertEqual(program.geometry(settings)[2:], (620, 580))
         self.switch(program, "Appointment", False)
-        program.keys("End")
+        program.keys("Next")
         self.switch(program, "Hide window to menu bar with ⌘W", True)
         self.assertTrue(self.preferences()["closeWindowToMenuBar"])
         program.keys("ctrl+w")
