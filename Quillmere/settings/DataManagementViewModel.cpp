@@ -30,8 +30,8 @@ ExportedFile exportedFile(const TimeBankArchiveExport::File& file) {
         return {file.path, {}, {}};
     }
     return {file.path, DataManagementViewModel::tr("Quillmere can't import this archive"),
-            DataManagementViewModel::tr("You can keep it as a copy of your data, but it can't be "
-                                        "merged back. %1")
+            DataManagementViewModel::tr("%1 You can keep it as a copy of your data, but it can't "
+                                        "be merged back.")
                 .arg(QString::fromStdString(*file.importObstacle))};
 }
 

@@ -23,7 +23,7 @@ ReachableFileDialog {
     }
 
     fileMode: FileDialog.SaveFile
-    options: FileDialog.DontConfirmOverwrite
+    options: FileDialog.DontConfirmOverwrite // qmllint disable
     acceptLabel: qsTr("Save")
     defaultSuffix: root.suffix
     onAccepted: root.share.choose(root.selectedFile)

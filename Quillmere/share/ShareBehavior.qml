@@ -43,7 +43,7 @@ Item {
         share: root.share
         title: root.title
         suffix: root.suffix
-        nameFilters: root.nameFilters
+        nameFilters: root.nameFilters // qmllint disable
     }
 
     AlertPanel {

@@ -22,7 +22,7 @@ ModalPanel {
     visible: root.work.isHoldingInput || root.work.isShown
 
     T.Overlay.modal: Rectangle {
-        color: root.work.isShown ? Theme.scrim : "transparent"
+        color: root.work.isShown ? Theme.scrim : "transparent" // qmllint disable unqualified
 
         Behavior on color { FadeMotion {} }
     }

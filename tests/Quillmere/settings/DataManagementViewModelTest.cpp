@@ -229,8 +229,8 @@ TEST_F(DataManagementTest, SaysWhenTheExportCouldNotBeImportedAgain) {
     finish();
     EXPECT_EQ(share.step(), FileShare::Remarking);
     EXPECT_EQ(share.remark(),
-              "You can keep it as a copy of your data, but it can't be merged back. This archive "
-              "contains duplicate record identifiers.");
+              "This archive contains duplicate record identifiers. You can keep it as a copy of "
+              "your data, but it can't be merged back.");
 }
 
 } // namespace quillmere
