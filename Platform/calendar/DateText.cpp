@@ -71,7 +71,7 @@ icu::UnicodeString patternOf(DateStyle style, const Region& region, const icu::L
     const std::unique_ptr<icu::DateTimePatternGenerator> generator(
         icu::DateTimePatternGenerator::createInstance(locale, status));
     require(status);
-    const auto pattern =
+    auto pattern =
         generator->getBestPattern(skeletonOf(style, region.usesTwelveHourClock()), status);
     require(status);
     return pattern;

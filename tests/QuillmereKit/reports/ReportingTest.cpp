@@ -15,7 +15,7 @@ const std::string ledgerHeader = "date,added_hours,removed_hours,net_change_hour
 
 /// The same from records and from rows.
 std::string ledgerCSV(const Ledger& ledger, DateInterval interval, const Calendar& calendar) {
-    const std::string text = TimeBankReporting::ledgerCSV(ledger.records(), interval, calendar);
+    std::string text = TimeBankReporting::ledgerCSV(ledger.records(), interval, calendar);
     EXPECT_EQ(TimeBankReporting::ledgerCSV(ledger.rows(), interval, calendar), text);
     return text;
 }
