@@ -25,7 +25,10 @@ AlertSurface {
             root.close();
     }
     onAboutToShow: root.isConfirmed = false
-    onOpened: cancel.forceActiveFocus(Qt.TabFocusReason)
+    onOpened: {
+        if (!confirm.activeFocus)
+            cancel.forceActiveFocus(Qt.TabFocusReason);
+    }
     onClosed: {
         if (root.isConfirmed)
             root.confirmed();
@@ -36,6 +39,7 @@ AlertSurface {
     BorderedButton {
         id: cancel
 
+        focus: true
         Layout.fillWidth: true
         Layout.preferredWidth: 1
         Layout.preferredHeight: confirm.implicitHeight

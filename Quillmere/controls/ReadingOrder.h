@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickItem>
 
@@ -11,16 +12,26 @@ namespace quillmere {
 class ReadingOrder : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickItem* container MEMBER container_)
+    Q_PROPERTY(QQuickItem* container READ container WRITE setContainer NOTIFY containerChanged)
 
 public:
     using QObject::QObject;
 
-    /// Call after children came or moved. Costs little when all is in order.
-    Q_INVOKABLE void restore();
+    [[nodiscard]] QQuickItem* container() const { return container_; }
+    void setContainer(QQuickItem* container);
+
+    /// Call when a child has moved; those that come are noticed. Restores the order once the
+    /// present changes are over, and costs little when all is in order.
+    Q_INVOKABLE void schedule();
+
+signals:
+    void containerChanged();
 
 private:
-    QQuickItem* container_ = nullptr;
+    void restore();
+
+    QPointer<QQuickItem> container_;
+    bool isScheduled_ = false;
 };
 
 } // namespace quillmere

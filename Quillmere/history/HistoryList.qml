@@ -123,10 +123,6 @@ ListView {
         }
     }
 
-    function restoreOrder(): void {
-        order.restore();
-    }
-
     model: root.items
     topMargin: 10
     bottomMargin: 10
@@ -162,7 +158,7 @@ ListView {
         x: root.sideMargin
         width: root.width - 2 * root.sideMargin
         keyHandler: root
-        onYChanged: Qt.callLater(root.restoreOrder)
+        onYChanged: order.schedule()
         onPressed: modifiers => root.press(row.index, modifiers)
         onMenuRequested: position => root.menuRequested(row.index, row.mapToItem(root, position.x, position.y))
     }

@@ -27,6 +27,9 @@ FocusScope {
     signal pressed(modifiers: int)
     signal menuRequested(position: point)
 
+    // A row kept for later use is not there, for assistive technology either.
+    ListView.onPooled: root.visible = false
+    ListView.onReused: root.visible = true
     implicitHeight: (firstOfDay ? title.height : 0) + card.height + (lastOfDay ? 14 : 0)
 
     FieldLabel {

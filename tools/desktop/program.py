@@ -82,6 +82,13 @@ class Program:
         """Presses keys as a person does; the window that is active gets them."""
         self._xdotool("key", "--clearmodifiers", "--delay", "0", *names)
 
+    def hold(self, name):
+        """Keeps a key down; the display repeats it until `release`."""
+        self._xdotool("keydown", name)
+
+    def release(self, name):
+        self._xdotool("keyup", name)
+
     def type(self, text):
         self._xdotool("type", "--clearmodifiers", "--delay", "0", text)
 
