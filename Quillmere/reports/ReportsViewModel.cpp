@@ -61,8 +61,8 @@ bool ReportsViewModel::hasNextPeriod() const {
     return interval_.end <= session_.time().now();
 }
 
-QStringList ReportsViewModel::weekdays() const {
-    QStringList names;
+QList<QString> ReportsViewModel::weekdays() const {
+    QList<QString> names;
     for (const int weekday : platform::weekdayColumns(calendar_)) {
         names.append(QString::fromStdString(dates_.weekdayName(weekday, DateStyle::shortWeekday)));
     }

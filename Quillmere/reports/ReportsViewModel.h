@@ -10,9 +10,9 @@
 #include "QuillmereKit/records/LedgerRow.h"
 #include "QuillmereKit/reports/ReportGranularity.h"
 
+#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QSortFilterProxyModel>
-#include <QtCore/QStringList>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -43,7 +43,7 @@ class ReportsViewModel : public QObject {
     Q_PROPERTY(bool hasNextPeriod READ hasNextPeriod NOTIFY changed)
     Q_PROPERTY(quillmere::LedgerFigures figures READ figures NOTIFY changed)
     /// The names of the grid's columns.
-    Q_PROPERTY(QStringList weekdays READ weekdays NOTIFY changed)
+    Q_PROPERTY(QList<QString> weekdays READ weekdays NOTIFY changed)
     Q_PROPERTY(quillmere::ReportDaysModel* days READ days CONSTANT)
     /// Those of `days` that are changed, with the same roles.
     Q_PROPERTY(QAbstractItemModel* changedDays READ changedDays CONSTANT)
@@ -67,7 +67,7 @@ public:
     [[nodiscard]] QString periodWord() const;
     [[nodiscard]] bool hasNextPeriod() const;
     [[nodiscard]] const LedgerFigures& figures() const { return figures_; }
-    [[nodiscard]] QStringList weekdays() const;
+    [[nodiscard]] QList<QString> weekdays() const;
     [[nodiscard]] ReportDaysModel* days() { return &days_; }
     [[nodiscard]] QAbstractItemModel* changedDays() { return &changedDays_; }
     [[nodiscard]] bool isLoading() const;

@@ -106,7 +106,7 @@ TEST_F(ReportsViewModelTest, SumsTheMonthByDays) {
     EXPECT_EQ(model().periodTitleInLowerCase(), "november 2026");
     EXPECT_EQ(figures(), "2:45 2:15 +0:30");
     EXPECT_EQ(changedDays(), "Sun, Nov 1 \u22120:45\nSat, Nov 21 +1:00\nMon, Nov 30 +0:15\n");
-    EXPECT_EQ(model().weekdays().join(' '), "Sun Mon Tue Wed Thu Fri Sat");
+    EXPECT_EQ(QStringList(model().weekdays()).join(' '), "Sun Mon Tue Wed Thu Fri Sat");
     EXPECT_EQ(model().days()->cursorRow(), 21);
 }
 
