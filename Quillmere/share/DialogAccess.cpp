@@ -1,6 +1,5 @@
 #include "Quillmere/share/DialogAccess.h"
 
-#include <QtCore/QTimer>
 #include <QtQuick/QQuickItem>
 
 #include <algorithm>
@@ -23,9 +22,6 @@ QString nameOf(const QQuickItem& item) {
     if (item.objectName() == QLatin1String("fileNameTextField")) {
         return DialogAccess::tr("File name");
     }
-    if (const QVariant file = item.property("fileName"); file.isValid()) {
-        return file.toString();
-    }
     const bool isUpButton = item.inherits("QQuickToolButton");
     return isUpButton ? DialogAccess::tr("Enclosing folder") : QString();
 }
@@ -42,6 +38,22 @@ bool losesPresses(const QQuickItem& item) {
     return item.inherits("QQuickAbstractButton") && item.metaObject()->indexOfMethod("click()") < 0;
 }
 
+void tendTo(QQuickItem& item) {
+    if (QObject* accessible = accessibleOf(item)) {
+        const QString name = nameOf(item);
+        if (!name.isEmpty()) {
+            accessible->setProperty("name", name);
+        }
+        if (losesPresses(item)) {
+            QObject::connect(accessible, SIGNAL(pressAction()), &item, SIGNAL(clicked()),
+                             Qt::UniqueConnection);
+        }
+    }
+    for (QQuickItem* child : item.childItems()) {
+        tendTo(*child);
+    }
+}
+
 } // namespace
 
 void DialogAccess::tend(QQuickWindow* window) {
@@ -49,35 +61,8 @@ void DialogAccess::tend(QQuickWindow* window) {
         for (QQuickItem* popup : layer->childItems()) {
             if (layer->inherits("QQuickOverlay") && isFileDialog(*popup)) {
                 tendTo(*popup);
-                // Some controls are not made yet.
-                QTimer::singleShot(0, popup, [this, popup] { tendTo(*popup); });
             }
         }
-    }
-}
-
-void DialogAccess::tendTo(QQuickItem& item) {
-    if (QObject* accessible = accessibleOf(item)) {
-        const QString name = nameOf(item);
-        if (!name.isEmpty()) {
-            accessible->setProperty("name", name);
-        }
-        if (losesPresses(item)) {
-            connect(accessible, SIGNAL(pressAction()), &item, SIGNAL(clicked()),
-                    Qt::UniqueConnection);
-        }
-    }
-    // Later, for a child is added before it is made.
-    connect(&item, &QQuickItem::childrenChanged, this, &DialogAccess::tendSender,
-            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
-    for (QQuickItem* child : item.childItems()) {
-        tendTo(*child);
-    }
-}
-
-void DialogAccess::tendSender() {
-    if (auto* item = qobject_cast<QQuickItem*>(sender())) {
-        tendTo(*item);
     }
 }
 

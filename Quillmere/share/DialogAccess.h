@@ -4,8 +4,6 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickWindow>
 
-class QQuickItem;
-
 namespace quillmere {
 
 /// Opens Qt's own file dialog to assistive technology, to which it gives nameless controls that
@@ -17,13 +15,10 @@ class DialogAccess : public QObject {
 public:
     using QObject::QObject;
 
-    /// To be called when a dialog has opened over the window's content: tends to its controls, and
-    /// to those added while it is open. Does nothing when the desktop's own dialog has opened.
-    Q_INVOKABLE void tend(QQuickWindow* window);
-
-private:
-    void tendTo(QQuickItem& item);
-    void tendSender();
+    /// To be called when a dialog has opened over the window's content, and when it shows another
+    /// folder. Does nothing when the desktop's own dialog has opened. A file of the list still has
+    /// no press; its path can be typed after Ctrl+L.
+    Q_INVOKABLE static void tend(QQuickWindow* window);
 };
 
 } // namespace quillmere

@@ -9,8 +9,11 @@ FileDialog {
 
     readonly property DialogAccess access: DialogAccess {}
 
-    onVisibleChanged: {
+    function tend() {
         if (root.visible && root.parentWindow)
             root.access.tend(root.parentWindow);
     }
+
+    onVisibleChanged: root.tend()
+    onCurrentFolderChanged: root.tend()
 }

@@ -16,8 +16,6 @@ Item {
     anchors.fill: parent
     Drag.dragType: Drag.Automatic
     Drag.supportedActions: Qt.CopyAction
-    Drag.mimeData: ({ "text/uri-list": root.share.uriList })
-    Drag.active: root.share.step === FileShare.Dragging
     Drag.onDragFinished: root.share.endDrag()
 
     DragHandler {
@@ -25,7 +23,7 @@ Item {
         onActiveChanged: {
             if (active)
                 root.share.drag();
-            else
+            else if (root.share.step === FileShare.Writing)
                 root.share.endDrag();
         }
     }
@@ -34,8 +32,13 @@ Item {
         target: root.share
 
         function onStepChanged() {
-            if (root.share.step === FileShare.Remarking)
+            if (root.share.step === FileShare.Dragging) {
+                // Starts the drag, and goes on when it has ended.
+                root.Drag.mimeData = { "text/uri-list": root.share.uriList };
+                root.Drag.active = true;
+            } else if (root.share.step === FileShare.Remarking) {
                 remark.open();
+            }
         }
     }
 
