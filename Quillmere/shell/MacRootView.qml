@@ -15,7 +15,7 @@ FocusScope {
     readonly property int headerHeight: 44
 
     function showScreen() {
-        screen.setSource(model.screen, { model: model.screenModel });
+        screen.setSource(model.screen, { model: model.screenModel, focus: true });
     }
 
     Component.onCompleted: showScreen()
@@ -108,9 +108,11 @@ FocusScope {
         }
     }
 
+    // A screen that is shown has the keyboard, unless the routes have it.
     Loader {
         id: screen
 
+        focus: true
         anchors.left: header.left
         anchors.right: parent.right
         anchors.top: header.bottom

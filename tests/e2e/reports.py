@@ -37,7 +37,7 @@ class Calendar(Story):
         program.await_dashboard()
         program.await_active()
         program.keys("ctrl+3")
-        program.await_element("button", "Previous period").focus()
+        program.await_element("button", "Previous period")
         for _ in range(self.months_since(noon)):
             program.keys("Page_Up")
         program.await_element(name=f"{noon:%B} {noon.year}")
