@@ -24,7 +24,10 @@ AlertSurface {
         else
             root.close();
     }
-    onAboutToShow: root.isConfirmed = false
+    onAboutToShow: {
+        root.isConfirmed = false;
+        cancel.focus = true;
+    }
     onOpened: {
         if (!confirm.activeFocus)
             cancel.forceActiveFocus(Qt.TabFocusReason);

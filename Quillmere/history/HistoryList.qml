@@ -15,18 +15,22 @@ ListView {
 
     readonly property int sideMargin: Math.max(Theme.spaceXL, Math.round((width - 780) / 2))
 
+    property int lastCount: 0
+
     signal opened(row: int)
     signal deletionRequested(row: int)
     signal menuRequested(row: int, position: point)
 
     function takeFocusBack(): void {
-        if (Window.activeFocusItem === null || Window.activeFocusItem.parent === null)
+        const focused = Window.activeFocusItem;
+        const isNobody = focused === null || focused.parent === null || !focused.visible;
+        if (isNobody || focused === root || focused === root.parent)
             focusCurrent();
     }
 
     function focusCurrent(): void {
         if (currentItem !== null)
-            currentItem.forceActiveFocus(Qt.TabFocusReason);
+            (currentItem as HistoryRow).takeKeyboard();
     }
 
     // What a press of a row means with these keys held.
@@ -47,7 +51,10 @@ ListView {
         const target = Math.max(0, Math.min(count - 1, row));
         const origin = currentIndex;
         currentIndex = target;
-        positionViewAtIndex(target, ListView.Contain);
+        if (target === 0)
+            positionViewAtBeginning();
+        else
+            positionViewAtIndex(target, ListView.Contain);
         focusCurrent();
         if (modifiers & Qt.ShiftModifier)
             items.selectTo(target, origin);
@@ -134,6 +141,10 @@ ListView {
     T.ScrollBar.vertical: ThinScrollBar {}
     Accessible.role: Accessible.List
     onCountChanged: {
+        // The row that had the keyboard may be among those that went.
+        if (count < lastCount)
+            Qt.callLater(takeFocusBack);
+        lastCount = count;
         if (currentIndex < 0 && count > 0)
             currentIndex = 0;
     }

@@ -27,6 +27,12 @@ FocusScope {
     signal pressed(modifiers: int)
     signal menuRequested(position: point)
 
+    // Takes the keyboard and shows that it has it, also when it had it before.
+    function takeKeyboard(): void {
+        row.forceActiveFocus(Qt.TabFocusReason);
+        row.focusReason = Qt.TabFocusReason;
+    }
+
     // A row kept for later use is not there, for assistive technology either.
     ListView.onPooled: root.visible = false
     ListView.onReused: root.visible = true

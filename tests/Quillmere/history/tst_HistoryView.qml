@@ -168,6 +168,7 @@ Item {
             compare(window.Window.activeFocusItem.text, "Delete items");
             keyClick(Qt.Key_Return);
             tryCompare(list, "count", 38);
+            tryVerify(() => row(list.currentIndex).activeFocus, 5000, "the row in their place has the keyboard");
             keyClick(Qt.Key_Delete);
             tryVerify(() => window.Window.activeFocusItem.text === "Cancel");
             keyClick(Qt.Key_Escape);
