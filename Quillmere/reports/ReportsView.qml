@@ -167,9 +167,11 @@ FocusScope {
             root.model.closeDay();
         }
 
+        // Within the window, whatever the day's list would like.
         Loader {
             id: content
 
+            anchors.fill: parent
             focus: true
         }
     }
