@@ -7,8 +7,10 @@
 #include <QtCore/QTimer>
 
 #include <chrono>
+#include <condition_variable>
 #include <exception>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <thread>
 #include <utility>
@@ -25,6 +27,16 @@ using platform::store::Subscription;
 
 constexpr auto pollInterval = 1s;
 constexpr auto readAgainAfter = 5s;
+constexpr auto verifyAfter = 2s; // leaves processors and disk to the first frames
+
+// Returns false when the thread is asked to stop meanwhile.
+bool waitFor(std::chrono::seconds time, const std::stop_token& stop) {
+    std::mutex mutex;
+    std::unique_lock lock(mutex);
+    std::condition_variable_any stopped;
+    stopped.wait_for(lock, stop, time, [] { return false; });
+    return !stop.stop_requested();
+}
 
 } // namespace
 
@@ -124,12 +136,13 @@ void StoreSession::refresh() {
 }
 
 void StoreSession::readHistory() {
-    impl_->historyReader = std::jthread([this] { readAndVerify(); });
+    impl_->historyReader =
+        std::jthread([this](const std::stop_token& stop) { readAndVerify(stop); });
 }
 
 // Hands the rows over first and then looks the whole file through: what is damaged is better found
 // before something is saved on top of it.
-void StoreSession::readAndVerify() {
+void StoreSession::readAndVerify(const std::stop_token& stop) {
     const auto onMainThread = [this](auto function) {
         QMetaObject::invokeMethod(this, std::move(function), Qt::QueuedConnection);
     };
@@ -139,6 +152,9 @@ void StoreSession::readAndVerify() {
         onMainThread([this, rows] { adoptHistory(*rows); });
     } catch (const std::exception& error) {
         onMainThread([this, reason = QString::fromUtf8(error.what())] { onHistoryFailed(reason); });
+        return;
+    }
+    if (!waitFor(verifyAfter, stop)) {
         return;
     }
     try {

@@ -11,6 +11,7 @@
 #include <QtCore/QString>
 
 #include <memory>
+#include <stop_token>
 #include <vector>
 
 namespace quillmere {
@@ -69,7 +70,7 @@ private:
     void watchOthers();
     void refresh();
     void readHistory();
-    void readAndVerify(); ///< on the worker
+    void readAndVerify(const std::stop_token& stop); ///< on the worker
     void adoptHistory(AdjustmentsQuery::Loaded& rows);
     void onHistoryFailed(const QString& reason);
 
