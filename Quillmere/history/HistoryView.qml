@@ -119,6 +119,7 @@ FocusScope {
         Loader {
             id: form
 
+            anchors.fill: parent
             focus: true
         }
     }

@@ -78,6 +78,7 @@ Item {
         function closeEditor() {
             tryVerify(() => findChild(window.Window.window, "adjustment.editor") !== null);
             tryVerify(() => window.Window.activeFocusItem.Accessible.name.startsWith("Hours"));
+            verify(findChild(window.Window.window, "adjustment.editor").height < window.height, "scrolls within the window");
             keyClick(Qt.Key_Escape);
             tryVerify(() => Fixture.model.editor === null);
         }
