@@ -87,6 +87,11 @@ FocusScope {
     Connections {
         target: root.model
 
+        // The row that the menu was opened for may be another now.
+        function onContentChanged() {
+            menu.close();
+        }
+
         function onEditorChanged() {
             if (root.model.editor === null)
                 return;

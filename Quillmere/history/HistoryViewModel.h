@@ -56,7 +56,7 @@ public:
     Q_INVOKABLE void closeEditor();
 
     /// Ask whether a row, or the selection and where there is none the row, may be deleted. What
-    /// was asked first stays what is asked.
+    /// was asked first stays what is asked; a row that has gone meanwhile is not asked for.
     Q_INVOKABLE void requestDeletion(int row);
     Q_INVOKABLE void requestDeletionOfSelection(int row);
     Q_INVOKABLE void dismissDeletion();

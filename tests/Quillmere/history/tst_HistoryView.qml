@@ -188,6 +188,14 @@ Item {
             compare(Fixture.model.deletionTitle, "Delete this time-bank change?");
         }
 
+        function test_theMenuGoesWhenItsRowMayBeAnother() {
+            mouseClick(row(2), 20, 20, Qt.RightButton);
+            const menu = findChild(screen, "history.menu");
+            tryCompare(menu, "opened", true);
+            Fixture.record(1);
+            tryCompare(menu, "visible", false);
+        }
+
         function test_saysThatThereIsNothing() {
             verify(!named(screen, "No changes yet"));
             Fixture.removeAll();
