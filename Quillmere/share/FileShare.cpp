@@ -93,9 +93,8 @@ void FileShare::write(bool isForDrag) {
             problem ? share->go(Idle) : share->onWritten(*exported);
         }
     };
-    if (appState_.work()->start(BackgroundWork::Kind::reading, title_, std::move(work), done)) {
-        go(Writing);
-    }
+    appState_.work()->start(BackgroundWork::Kind::reading, title_, std::move(work), done);
+    go(Writing);
 }
 
 void FileShare::onWritten(const ExportedFile& exported) {
@@ -158,7 +157,8 @@ void FileShare::copy() {
         }
     };
     const auto work = [file = exported_.path, target = pathOf(target_)] { putCopy(file, target); };
-    go(appState_.work()->start(BackgroundWork::Kind::reading, title_, work, done) ? Copying : Idle);
+    appState_.work()->start(BackgroundWork::Kind::reading, title_, work, done);
+    go(Copying);
 }
 
 void FileShare::onCopied() {

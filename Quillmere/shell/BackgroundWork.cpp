@@ -1,5 +1,6 @@
 #include "Quillmere/shell/BackgroundWork.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -19,16 +20,23 @@ BackgroundWork::BackgroundWork(QObject* parent) : QObject(parent) {
 
 BackgroundWork::~BackgroundWork() = default;
 
-bool BackgroundWork::start(Kind kind, const QString& title, std::function<void()> work, Done done) {
-    if (isRunning_) {
-        return false;
+bool BackgroundWork::isHoldingInput() const {
+    return std::ranges::find(pieces_, Kind::writing, &Piece::kind) != pieces_.end();
+}
+
+// Each worker waits for the one before it.
+void BackgroundWork::start(Kind kind, const QString& title, std::function<void()> work, Done done) {
+    if (!isRunning()) {
+        title_ = title;
+        showing_.start();
     }
-    kind_ = kind;
-    title_ = title;
-    isRunning_ = true;
-    showing_.start();
+    pieces_.push_back({kind, title});
     emit changed();
-    worker_ = std::jthread([this, work = std::move(work), done = std::move(done)] {
+    worker_ = std::jthread([this, before = std::move(worker_), work = std::move(work),
+                            done = std::move(done)]() mutable {
+        if (before.joinable()) {
+            before.join();
+        }
         std::exception_ptr problem;
         try {
             work();
@@ -38,7 +46,6 @@ bool BackgroundWork::start(Kind kind, const QString& title, std::function<void()
         QMetaObject::invokeMethod(
             this, [this, done, problem] { finish(done, problem); }, Qt::QueuedConnection);
     });
-    return true;
 }
 
 void BackgroundWork::show() {
@@ -47,9 +54,13 @@ void BackgroundWork::show() {
 }
 
 void BackgroundWork::finish(const Done& done, const std::exception_ptr& problem) {
-    showing_.stop();
-    isRunning_ = false;
-    isShown_ = false;
+    pieces_.pop_front();
+    if (isRunning()) {
+        title_ = pieces_.front().title;
+    } else {
+        showing_.stop();
+        isShown_ = false;
+    }
     emit changed();
     if (!problem) {
         done(nullptr);
