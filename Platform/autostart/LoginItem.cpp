@@ -51,7 +51,7 @@ bool has(const Keys& keys, std::string_view key, std::string_view value) {
     return found != keys.end() && found->second == value;
 }
 
-/// A path as one argument of the key "Exec" (Desktop Entry Specification 1.5): quoted, its field
+/// A path as one argument of the key "Exec" (freedesktop.org, Desktop Entry 1.5): quoted, its field
 /// codes doubled, and then escaped as every string value.
 std::string execArgument(std::string_view path) {
     std::string argument = "\"";

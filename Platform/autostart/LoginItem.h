@@ -8,8 +8,8 @@
 namespace platform {
 
 /// A program's place among those that the desktop starts when the user logs in: a desktop entry in
-/// the user's autostart folder (Desktop Application Autostart Specification 0.5). Every answer is
-/// read from the entry anew.
+/// the user's autostart folder (freedesktop.org, Desktop Application Autostart 0.5). Every answer
+/// is read from the entry anew.
 class LoginItem {
 public:
     enum class Status {
