@@ -86,13 +86,6 @@ TEST_F(LoginItemTest, quotesWhatTheDesktopWouldInterpret) {
         << text();
 }
 
-TEST_F(LoginItemTest, saysWhenItCannotBeChanged) {
-    fs::create_directories(file() / "in the way");
-    EXPECT_EQ(item().status(), Status::notRegistered);
-    EXPECT_THROW(item().add(), FileError);
-    EXPECT_THROW(item().remove(), FileError);
-}
-
 TEST(LoginItemsSettings, areThoseOfTheDesktopInUse) {
     const TestFolder folder;
     const std::string first = folder.path() / "first";

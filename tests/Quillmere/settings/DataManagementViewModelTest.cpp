@@ -2,7 +2,6 @@
 
 #include "Platform/files/Files.h"
 #include "Platform/files/UserFolders.h"
-#include "Quillmere/settings/DataManagementTexts.h"
 #include "Quillmere/shell/AppStorageController.h"
 #include "QuillmereKit/archive/TimeBankArchiveExport.h"
 #include "QuillmereKit/maintenance/StorePreparation.h"
@@ -74,39 +73,6 @@ protected:
 };
 
 } // namespace
-
-TEST(DataManagementTexts, FollowTheWayTheStoreIsKept) {
-    struct Row {
-        PersistenceMode mode;
-        const char* erase;
-        const char* footerEnd;
-    };
-    const Row rows[] = {
-        {PersistenceMode::iCloud,
-         "This cannot be undone. Quillmere will return to setup after deleting the synced time "
-         "bank.",
-         " from this device and your private iCloud time bank."},
-        {PersistenceMode::localOnly,
-         "This cannot be undone. Quillmere will return to setup after deleting this device's time "
-         "bank.",
-         " stored on this device."},
-        {PersistenceMode::temporary,
-         "This cannot be undone. Quillmere will return to setup after deleting the temporary time "
-         "bank.",
-         " from this temporary session."},
-        {PersistenceMode::unavailable,
-         "No data store is open, so there is nothing available to erase.",
-         "retained legacy data. No data store is open, so there is nothing available to erase."},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(DataManagementTexts::eraseMessage(row.mode), row.erase);
-        EXPECT_TRUE(DataManagementTexts::footer(row.mode).endsWith(row.footerEnd)) << row.footerEnd;
-        EXPECT_EQ(DataManagementTexts::importMessage(row.mode).endsWith(
-                      "aren't deleted. Imported changes sync to your other devices."),
-                  row.mode == PersistenceMode::iCloud);
-    }
-    EXPECT_EQ(DataManagementTexts::importTitle({}), "Import data archive?");
-}
 
 TEST_F(DataManagementTest, AsksForAnImportOfTheArchivesRecordsUpToItsSizeLimit) {
     std::string padded = empty;
