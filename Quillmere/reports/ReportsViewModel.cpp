@@ -111,6 +111,7 @@ void ReportsViewModel::moveAnchor(int periods) {
 void ReportsViewModel::requestDay(int row) {
     const auto date = days_.changedDay(row);
     if (date && !selectedDay_) {
+        days_.setCursor(*date);
         selectedDay_ = std::make_unique<SelectedLedgerDay>(session_, *date);
         emit selectedDayChanged();
     }

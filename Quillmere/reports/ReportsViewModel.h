@@ -83,7 +83,7 @@ public:
     Q_INVOKABLE void showPreviousPeriod();
     /// Does nothing while there is no next one.
     Q_INVOKABLE void showNextPeriod();
-    /// Opens the changed day at a row of `days`; other rows do nothing.
+    /// Opens the changed day at a row of `days` and puts the cursor on it; other rows do nothing.
     Q_INVOKABLE void requestDay(int row);
     /// Called when the day is no longer shown.
     Q_INVOKABLE void closeDay();

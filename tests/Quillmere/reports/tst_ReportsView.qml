@@ -157,7 +157,7 @@ Item {
 
         function test_opensAChangedDay_data() {
             return [
-                { tag: "Enter in the grid", open: () => keyClick(Qt.Key_Return) },
+                { tag: "Enter in the grid", open: () => { keyClick(Qt.Key_Left); keyClick(Qt.Key_Return); } },
                 { tag: "a click on the cell", open: () => mouseClick(named(part("calendar.grid"), "Saturday, November 21, 2026")) },
                 { tag: "a click on the row", open: () => mouseClick(named(screen, "Saturday, November 21, 2026, plus 0 hours, 30 minutes")) },
             ];
@@ -167,8 +167,7 @@ Item {
             Fixture.record(60, 1, "Standup");
             Fixture.record(-30, 1, "");
             const cell = named(part("calendar.grid"), "Saturday, November 21, 2026");
-            Fixture.model.days.moveDays(-1);
-            cell.forceActiveFocus(Qt.TabFocusReason);
+            named(screen, "Sunday, November 22, 2026").forceActiveFocus(Qt.TabFocusReason);
             row.open();
             tryVerify(() => daySheet() !== null);
             const sheet = daySheet();
@@ -182,6 +181,7 @@ Item {
             tryVerify(() => daySheet() === null);
             compare(Fixture.model.selectedDay, null);
             verify(focusedName().startsWith("Saturday, November 21, 2026"));
+            compare(Fixture.model.days.cursorRow, cell.row);
         }
 
         function test_leavesAnUnchangedDayClosed() {
