@@ -70,7 +70,7 @@ Item {
         x: 9
         y: 7
         text: root.number
-        font: root.today ? Theme.captionSemibold : Theme.captionMedium
+        font: Theme.captionMedium
         color: root.today ? Theme.prominentText : Theme.primary
         Accessible.ignored: true
     }
