@@ -29,8 +29,8 @@ public:
     QString message;
 };
 
-/// What every screen shares: the issue being shown, the long work under way and the widget throttle.
-/// One per process, main thread.
+/// What every screen shares: the issue being shown, the long work under way and the widget
+/// throttle. One per process, main thread.
 class AppState : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -14,8 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t enough = 1U << 20;
-
 std::vector<std::string> namesIn(const fs::path& folder) {
     std::vector<std::string> names;
     for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
@@ -23,10 +21,6 @@ std::vector<std::string> namesIn(const fs::path& folder) {
     }
     std::ranges::sort(names);
     return names;
-}
-
-unsigned modeOf(const fs::path& path) {
-    return static_cast<unsigned>(fs::symlink_status(path).permissions());
 }
 
 } // namespace
@@ -47,10 +41,10 @@ TEST(ExportFile, LeavesOneExportReadableByItsOwnerAlone) {
         fs::permissions(folder, fs::perms(0755));
         EXPECT_EQ(writeExportFile(folder, "new", "bytes", clearing), folder / "new");
         EXPECT_EQ(namesIn(folder), left);
-        EXPECT_EQ(readFile(folder / "new", enough), "bytes");
-        EXPECT_EQ(modeOf(folder), 0700U);
-        EXPECT_EQ(modeOf(folder.parent_path()), 0700U);
-        EXPECT_EQ(modeOf(folder / "new"), 0600U);
+        EXPECT_EQ(readFile(folder / "new", TestFolder::enough), "bytes");
+        EXPECT_EQ(TestFolder::modeOf(folder), 0700U);
+        EXPECT_EQ(TestFolder::modeOf(folder.parent_path()), 0700U);
+        EXPECT_EQ(TestFolder::modeOf(folder / "new"), 0600U);
     }
 }
 
@@ -70,9 +64,9 @@ TEST(ExportFile, IsSavedWhereALinkLeadsAndKeepsTheModeOfWhatItReplaces) {
     writeFileAtomically(folder.path() / "shared", "a longer old text", 0644);
     fs::create_symlink("shared", folder.path() / "link");
     saveForUser(folder.path() / "link", "new");
-    EXPECT_EQ(readFile(folder.path() / "shared", enough), "new");
-    EXPECT_EQ(modeOf(folder.path() / "shared"), 0644U);
+    EXPECT_EQ(readFile(folder.path() / "shared", TestFolder::enough), "new");
+    EXPECT_EQ(TestFolder::modeOf(folder.path() / "shared"), 0644U);
     EXPECT_TRUE(fs::is_symlink(folder.path() / "link"));
     saveForUser(folder.path() / "private", "new");
-    EXPECT_EQ(modeOf(folder.path() / "private"), 0600U);
+    EXPECT_EQ(TestFolder::modeOf(folder.path() / "private"), 0600U);
 }

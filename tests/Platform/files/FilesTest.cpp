@@ -3,7 +3,6 @@
 #include "tests/Platform/files/TestFolder.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,14 +14,6 @@ using namespace platform;
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::size_t enough = 1U << 20;
-
-mode_t modeOf(const fs::path& path) {
-    struct stat status {};
-    EXPECT_EQ(::lstat(path.c_str(), &status), 0);
-    return status.st_mode & 07777;
-}
 
 std::size_t entriesIn(const fs::path& folder) {
     return static_cast<std::size_t>(
@@ -56,8 +47,8 @@ TEST(Files, ReplacesAFileWithExactlyTheModeAndLeavesNothingElse) {
     for (const std::string& bytes : {std::string("first"), std::string(), std::string(200000, 'x'),
                                      std::string(65536, '\0')}) {
         writeFileAtomically(file, bytes, bytes.empty() ? 0666 : privateFileMode);
-        EXPECT_EQ(readFile(file, enough), bytes);
-        EXPECT_EQ(modeOf(file), bytes.empty() ? 0666U : 0600U);
+        EXPECT_EQ(readFile(file, TestFolder::enough), bytes);
+        EXPECT_EQ(TestFolder::modeOf(file), bytes.empty() ? 0666U : 0600U);
         EXPECT_EQ(entriesIn(folder.path()), 1U);
     }
 }
@@ -67,7 +58,7 @@ TEST(Files, ReplacesALinkAndNotWhatItPointsTo) {
     writeFileAtomically(folder.path() / "target", "kept", privateFileMode);
     fs::create_symlink("target", folder.path() / "link");
     writeFileAtomically(folder.path() / "link", "new", privateFileMode);
-    EXPECT_EQ(readFile(folder.path() / "target", enough), "kept");
+    EXPECT_EQ(readFile(folder.path() / "target", TestFolder::enough), "kept");
     EXPECT_FALSE(fs::is_symlink(folder.path() / "link"));
 }
 
@@ -76,19 +67,21 @@ TEST(Files, FailuresHaveAKind) {
     const fs::path file = folder.path() / "file";
     writeFileAtomically(file, "1234", privateFileMode);
     const std::pair<FileError::Kind, std::function<void()>> rows[] = {
-        {FileError::Kind::notFound, [&] { (void)readFile(folder.path() / "none", enough); }},
-        {FileError::Kind::notFound, [&] { (void)readFile(file / "below", enough); }},
+        {FileError::Kind::notFound,
+         [&] { (void)readFile(folder.path() / "none", TestFolder::enough); }},
+        {FileError::Kind::notFound, [&] { (void)readFile(file / "below", TestFolder::enough); }},
         {FileError::Kind::notFound,
          [&] { writeFileAtomically(folder.path() / "none" / "file", "", privateFileMode); }},
         {FileError::Kind::tooLarge, [&] { (void)readFile(file, 3); }},
-        {FileError::Kind::other, [&] { (void)readFile(folder.path(), enough); }},
+        {FileError::Kind::other, [&] { (void)readFile(folder.path(), TestFolder::enough); }},
         {FileError::Kind::other, [&] { createPrivateFolder(file); }},
     };
     for (const auto& [kind, action] : rows) {
         EXPECT_EQ(failureOf(action), kind);
     }
     EXPECT_EQ(readFile(file, 4), "1234");
-    EXPECT_GT(readFile("/proc/self/maps", enough).size(), 0U) << "a file that reports no size";
+    EXPECT_GT(readFile("/proc/self/maps", TestFolder::enough).size(), 0U)
+        << "a file that reports no size";
 }
 
 TEST(Files, CreatesMissingFoldersPrivatelyAndLeavesOthersAlone) {
@@ -97,9 +90,9 @@ TEST(Files, CreatesMissingFoldersPrivatelyAndLeavesOthersAlone) {
     fs::permissions(folder.path() / "open", fs::perms(0755));
     createPrivateFolder(folder.path() / "open" / "a" / "b");
     createPrivateFolder(folder.path() / "open" / "a" / "b");
-    EXPECT_EQ(modeOf(folder.path() / "open"), 0755U);
-    EXPECT_EQ(modeOf(folder.path() / "open" / "a"), 0700U);
-    EXPECT_EQ(modeOf(folder.path() / "open" / "a" / "b"), 0700U);
+    EXPECT_EQ(TestFolder::modeOf(folder.path() / "open"), 0755U);
+    EXPECT_EQ(TestFolder::modeOf(folder.path() / "open" / "a"), 0700U);
+    EXPECT_EQ(TestFolder::modeOf(folder.path() / "open" / "a" / "b"), 0700U);
 }
 
 TEST(Files, AFullOrReadOnlyDiskLeavesTheOldFile) {
@@ -112,8 +105,8 @@ TEST(Files, AFullOrReadOnlyDiskLeavesTheOldFile) {
         writeFileAtomically(file, std::string(size, 'n'), privateFileMode);
     };
     writeFileAtomically(file, "old", privateFileMode);
-    EXPECT_EQ(failureOf([&] { write(enough); }), FileError::Kind::diskFull);
-    EXPECT_EQ(readFile(file, enough), "old");
+    EXPECT_EQ(failureOf([&] { write(TestFolder::enough); }), FileError::Kind::diskFull);
+    EXPECT_EQ(readFile(file, TestFolder::enough), "old");
     EXPECT_EQ(entriesIn(folder.path()), 1U);
 
     ASSERT_TRUE(makeReadOnly(folder.path()));
@@ -121,7 +114,7 @@ TEST(Files, AFullOrReadOnlyDiskLeavesTheOldFile) {
     EXPECT_EQ(failureOf([&] { createPrivateFolder(folder.path() / "new"); }),
               FileError::Kind::noPermission);
     EXPECT_NO_THROW(createPrivateFolder(folder.path()));
-    EXPECT_EQ(readFile(file, enough), "old");
+    EXPECT_EQ(readFile(file, TestFolder::enough), "old");
 }
 
 TEST(Files, ReadersSeeAWholeFileWhileItIsReplacedAndAfterItsWriterIsKilled) {
@@ -130,7 +123,7 @@ TEST(Files, ReadersSeeAWholeFileWhileItIsReplacedAndAfterItsWriterIsKilled) {
     const std::string first(300000, '1');
     const std::string second(100000, '2');
     const auto isWhole = [&] {
-        const std::string found = readFile(file, enough);
+        const std::string found = readFile(file, TestFolder::enough);
         return found == first || found == second;
     };
     for (int round = 0; round < 5; ++round) {

@@ -25,6 +25,10 @@ TestFolder::~TestFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
+mode_t TestFolder::modeOf(const std::filesystem::path& path) {
+    return static_cast<mode_t>(std::filesystem::symlink_status(path).permissions());
+}
+
 bool mountSmallDisk(const std::filesystem::path& folder) {
     const auto user = ::geteuid();
     if (::unshare(user == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) != 0) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <sys/stat.h>
+
+#include <cstddef>
 #include <filesystem>
 
 /// A new folder, in memory where that is possible, removed with everything in it.
@@ -10,7 +13,13 @@ public:
     TestFolder(const TestFolder&) = delete;
     TestFolder& operator=(const TestFolder&) = delete;
 
+    /// More bytes than a test writes into one file.
+    static constexpr std::size_t enough = 1U << 20;
+
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+    /// The permission bits of what lies at `path`, without following a link.
+    [[nodiscard]] static mode_t modeOf(const std::filesystem::path& path);
 
 private:
     std::filesystem::path path_;

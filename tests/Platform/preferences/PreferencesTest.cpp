@@ -18,11 +18,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t enough = 1U << 20;
-
 class FilePreferencesTest : public testing::Test {
 protected:
-    [[nodiscard]] std::string fileText() const { return readFile(file_, enough); }
+    [[nodiscard]] std::string fileText() const { return readFile(file_, TestFolder::enough); }
     void writeFile(std::string_view text) const {
         createPrivateFolder(domain_);
         writeFileAtomically(file_, text, privateFileMode);
@@ -134,7 +132,7 @@ TEST_F(FilePreferencesTest, KeepsADamagedFileAside) {
         std::string kept = "nothing";
         for (const auto& entry : fs::directory_iterator(domain_)) {
             if (entry.path().filename().string().starts_with("damaged-")) {
-                kept = readFile(entry.path(), enough);
+                kept = readFile(entry.path(), TestFolder::enough);
             }
         }
         EXPECT_EQ(kept, text);
@@ -209,7 +207,7 @@ TEST_F(FilePreferencesTest, AFullOrReadOnlyDiskChangesNothing) {
     int changes = 0;
     EXPECT_TRUE(preferences_.setString("kept", "old"));
     preferences_.onChange([&] { ++changes; });
-    EXPECT_FALSE(preferences_.setString("kept", std::string(enough, 'x')));
+    EXPECT_FALSE(preferences_.setString("kept", std::string(TestFolder::enough, 'x')));
     EXPECT_EQ(preferences_.string("kept"), "old");
 
     ASSERT_TRUE(makeReadOnly(folder_.path()));

@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int week = 0;
+constexpr int weekIndex = 0;
 const std::string header = "date,added_hours,removed_hours,net_change_hours\n";
 
 /// On Sunday, 22 November 2026, 15:10 UTC, where weeks begin on Sunday.
@@ -139,7 +139,7 @@ TEST_F(ReportsViewModelTest, PagesToThePastAndNeverIntoTheFuture) {
         EXPECT_TRUE(model().hasNextPeriod());
     }
     EXPECT_EQ(model().periodWord(), "month");
-    model().chooseGranularity(week);
+    model().chooseGranularity(weekIndex);
     EXPECT_EQ(model().periodWord(), "week");
     EXPECT_EQ(model().periodTitle(), "Sep 20\u2013Sep 26, 2026");
     EXPECT_EQ(model().days()->cursorRow(), 2);
@@ -151,14 +151,14 @@ TEST_F(ReportsViewModelTest, PagesToThePastAndNeverIntoTheFuture) {
     model().showNextPeriod();
     model().showNextPeriod();
     EXPECT_EQ(model().periodTitle(), "November 2026");
-    model().chooseGranularity(week);
+    model().chooseGranularity(weekIndex);
     EXPECT_EQ(model().periodTitle(), "Nov 22\u2013Nov 28, 2026");
     EXPECT_FALSE(model().hasNextPeriod());
 }
 
 TEST_F(ReportsViewModelTest, LetsTheNextPeriodBeShownWhenItBegins) {
     loaded();
-    model().chooseGranularity(week);
+    model().chooseGranularity(weekIndex);
     moveClock(now + 6 * day);
     EXPECT_FALSE(model().hasNextPeriod());
     EXPECT_TRUE(model().days()->index(6).data(ReportDaysModel::TodayRole).toBool());
@@ -222,7 +222,7 @@ TEST_F(ReportsViewModelTest, NamesAndWritesTheExportOfThePeriod) {
     const ReportCSVExport month = model().csvExport();
     EXPECT_EQ(month.csv, header + "2026-11-21,1.50,0.33,1.17\n");
     EXPECT_EQ(month.filename, "Quillmere-2026-11.csv");
-    model().chooseGranularity(week);
+    model().chooseGranularity(weekIndex);
     EXPECT_EQ(model().csvExport().filename, "Quillmere-2026-11-22.csv");
     EXPECT_EQ(model().csvExport().csv, header);
 

@@ -1,3 +1,4 @@
+#include "QuillmereKit/reports/LedgerDay.h"
 #include "QuillmereKit/reports/TimeBankReporting.h"
 #include "tests/QuillmereKit/Ledger.h"
 
@@ -108,15 +109,27 @@ TEST(LedgerDays, SumToTheBalance) {
              shown = period(ReportGranularity::month, shown.end, calendar)) {
             const TimeBankReport report{
                 shown, TimeBankCalculator::ledgerDayBalances(ledger.rows(), shown, calendar)};
-            const LedgerTotals month = TimeBankReporting::ledgerTotals(ledger.rows(), shown);
-            ASSERT_EQ(report.balanceSeconds(), month.netSeconds()) << zone;
+            const LedgerTotals ofMonth = TimeBankReporting::ledgerTotals(ledger.rows(), shown);
+            ASSERT_EQ(report.balanceSeconds(), ofMonth.netSeconds()) << zone;
             seconds += report.balanceSeconds();
-            totals.addedSeconds += month.addedSeconds;
-            totals.subtractedSeconds += month.subtractedSeconds;
+            totals.addedSeconds += ofMonth.addedSeconds;
+            totals.subtractedSeconds += ofMonth.subtractedSeconds;
             ASSERT_EQ(ledger.balance(0, shown.end - 0.001), seconds) << zone;
         }
         EXPECT_EQ(totals.netSeconds(), seconds);
     }
+}
+
+TEST(LedgerDay, LeavesAnHourRepeatedAcrossMidnightToTheOldDate) {
+    const Calendar calendar = calendarIn("America/St_Johns");
+    const Instant start = calendar.startOfDay(CivilDate{2010, 11, 7}).value(); // 23:01 after 00:01
+    const Ledger ledger{{start - 1, 1},    {start, 2},         {start + 60, 4},
+                        {start + hour, 8}, {start + day, -16}, {start + 25 * hour, 32}};
+    const auto totals = [&](Instant date) {
+        return LedgerDay::of(ledger.rows(), date, calendar).totals;
+    };
+    EXPECT_EQ(totals(start), (LedgerTotals{10 * minute, 16 * minute}));
+    EXPECT_EQ(totals(start - hour), (LedgerTotals{5 * minute, 0}));
 }
 
 TEST(ChartHourRange, IncludesZeroWithHeadroomWhereThereIsData) {
