@@ -1,5 +1,4 @@
 #include "Platform/json/Writer.h"
-#include "QuillmereKit/archive/ArchiveProgressMeter.h"
 #include "QuillmereKit/archive/TimeBankArchive.h"
 #include "QuillmereKit/archive/TimeBankArchiveCodingError.h"
 
@@ -13,8 +12,7 @@ using platform::json::Writer;
 /// Writes the members of records and arrays; callers name the keys in sorted order.
 class ArchiveEncoder {
 public:
-    ArchiveEncoder(std::string& out, const ArchiveProgress& progress, std::size_t recordCount)
-        : writer_(out, Writer::Layout::pretty), meter_(progress, recordCount) {}
+    explicit ArchiveEncoder(std::string& out) : writer_(out, Writer::Layout::pretty) {}
 
     void write(const TimeBankArchive& archive) {
         writer_.beginObject();
@@ -35,7 +33,6 @@ private:
             writer_.beginObject();
             members(record);
             writer_.endObject();
-            meter_.step();
         }
         writer_.endArray();
     }
@@ -103,16 +100,15 @@ private:
     }
 
     Writer writer_;
-    ArchiveProgressMeter meter_;
 };
 
 } // namespace
 
-std::string TimeBankArchive::encodedJSON(const ArchiveProgress& progress) const try {
+std::string TimeBankArchive::encodedJSON() const try {
     constexpr std::size_t usualRecordBytes = 300;
     std::string out;
     out.reserve((recordCount() + 1) * usualRecordBytes);
-    ArchiveEncoder(out, progress, recordCount()).write(*this);
+    ArchiveEncoder(out).write(*this);
     return out;
 } catch (const platform::json::JsonError& error) {
     throw TimeBankArchiveCodingError(error.what());

@@ -1,4 +1,3 @@
-#include "QuillmereKit/archive/ArchiveProgressMeter.h"
 #include "QuillmereKit/archive/ArchivedRecordImport.h"
 #include "QuillmereKit/archive/RecordIndex.h"
 #include "QuillmereKit/archive/TimeBankArchive.h"
@@ -16,10 +15,9 @@ using platform::store::Context;
 class ArchiveMerge {
 public:
     /// Brings the store's own records in order first.
-    ArchiveMerge(Context& context, Instant exportedAt, Instant now, ArchiveProgressMeter& meter)
+    ArchiveMerge(Context& context, Instant exportedAt, Instant now)
         : context_(context),
           import_(exportedAt, now),
-          meter_(meter),
           entries_(context, now),
           adjustments_(context, now),
           schedules_(context, now),
@@ -38,7 +36,6 @@ private:
     void merge(const std::vector<ArchivedRecord>& records, const RecordIndex<R>& known) {
         for (const ArchivedRecord& record : records) {
             merge(record, known.find(record.id));
-            meter_.step();
         }
     }
 
@@ -57,7 +54,6 @@ private:
 
     Context& context_;
     ArchivedRecordImport import_;
-    ArchiveProgressMeter& meter_;
     RecordIndex<WorkEntry> entries_;
     RecordIndex<BalanceAdjustment> adjustments_;
     RecordIndex<WorkSchedule> schedules_;
@@ -72,15 +68,11 @@ void repair(Context& context, Instant now) {
 
 } // namespace
 
-TimeBankArchiveMergeResult TimeBankArchive::merge(Context& context, Instant now,
-                                                  const ArchiveProgress& progress) const {
+TimeBankArchiveMergeResult TimeBankArchive::merge(Context& context, Instant now) const {
     validate();
-    ArchiveProgressMeter meter(progress, recordCount() + 1);
-    const TimeBankArchiveMergeResult result =
-        ArchiveMerge(context, exportedAt, now, meter).run(*this);
+    const TimeBankArchiveMergeResult result = ArchiveMerge(context, exportedAt, now).run(*this);
     repair(context, now);
     context.save();
-    meter.step();
     return result;
 }
 

@@ -3,7 +3,6 @@
 #include "Platform/base/Instant.h"
 #include "Platform/base/Uuid.h"
 #include "Platform/store/Context.h"
-#include "QuillmereKit/archive/ArchiveProgress.h"
 #include "QuillmereKit/archive/TimeBankArchiveMergeResult.h"
 
 #include <cstddef>
@@ -113,7 +112,7 @@ struct TimeBankArchive {
     [[nodiscard]] std::size_t recordCount() const;
 
     /// The document. Any thread. Throws `TimeBankArchiveCodingError`.
-    [[nodiscard]] std::string encodedJSON(const ArchiveProgress& progress = {}) const;
+    [[nodiscard]] std::string encodedJSON() const;
 
     /// Reads and validates a document. Unknown keys are ignored; null stands for an absent value;
     /// everything else must be as it is written, in strict JSON. Any thread. Throws
@@ -139,8 +138,8 @@ struct TimeBankArchive {
     /// Runs on the context's thread; a worker brings a context of its own. Throws
     /// `TimeBankArchiveError` with nothing touched, or `StoreError`: the caller then rolls back;
     /// the store is as it was.
-    TimeBankArchiveMergeResult merge(platform::store::Context& context, platform::Instant now,
-                                     const ArchiveProgress& progress = {}) const;
+    TimeBankArchiveMergeResult merge(platform::store::Context& context,
+                                     platform::Instant now) const;
 
     friend bool operator==(const TimeBankArchive&, const TimeBankArchive&) = default;
 };

@@ -25,9 +25,8 @@ std::string TimeBankArchiveExport::filenameAt(platform::Instant instant,
 }
 
 TimeBankArchiveExport::File
-TimeBankArchiveExport::write(const std::filesystem::path& temporaryFolder,
-                             const ArchiveProgress& progress) const {
-    const std::string bytes = archive.encodedJSON(progress);
+TimeBankArchiveExport::write(const std::filesystem::path& temporaryFolder) const {
+    const std::string bytes = archive.encodedJSON();
     return {platform::writeExportFile(temporaryFolder / folderName, filename, bytes,
                                       platform::ExportClearing::visible),
             bytes.size(), archive.importObstacle(bytes.size())};

@@ -40,8 +40,7 @@ struct TimeBankArchiveExport {
     /// Writes the file into the subfolder `folderName` of the user's temporary folder, where it
     /// replaces earlier exports: folder 0700, file 0600, in one step and verified. Any thread.
     /// Throws `FileError` or `TimeBankArchiveCodingError`.
-    [[nodiscard]] File write(const std::filesystem::path& temporaryFolder,
-                             const ArchiveProgress& progress = {}) const;
+    [[nodiscard]] File write(const std::filesystem::path& temporaryFolder) const;
 };
 
 } // namespace quillmere

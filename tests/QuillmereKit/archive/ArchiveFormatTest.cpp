@@ -4,7 +4,6 @@
 #include "QuillmereKit/archive/TimeBankArchiveExport.h"
 #include "tests/Platform/files/TestFolder.h"
 #include "tests/QuillmereKit/KitTest.h"
-#include "tests/QuillmereKit/archive/RandomTimeBank.h"
 
 #include <fstream>
 #include <functional>
@@ -67,17 +66,6 @@ void fill(std::vector<Record>& records, std::size_t count) {
 TEST(ArchiveFormat, WritesTheDocumentedLayoutAndReadsItBack) {
     EXPECT_EQ(sample().encodedJSON() + "\n", document);
     EXPECT_EQ(TimeBankArchive::decodeJSON(document), sample());
-}
-
-TEST(ArchiveFormat, ReadsBackEveryArchiveBitForBit) {
-    for (unsigned seed = 0; seed < 50; ++seed) {
-        SCOPED_TRACE(seed);
-        const TimeBankArchive archive = RandomTimeBank(seed, moment).archive();
-        const std::string text = archive.encodedJSON();
-        const TimeBankArchive back = TimeBankArchive::decodeJSON(text);
-        ASSERT_EQ(back, archive);
-        ASSERT_EQ(back.encodedJSON(), text);
-    }
 }
 
 TEST(ArchiveFormat, AcceptsWhatOtherProgramsMayWrite) {
