@@ -6,13 +6,13 @@
 
 namespace quillmere {
 
-// The table tells the hour that a zone repeats across midnight from the day it follows.
 LedgerDay LedgerDay::of(std::span<const LedgerRow> adjustments, platform::Instant date,
                         const platform::Calendar& calendar) {
-    const platform::DayTable table(calendar, date, date + 86'400);
+    constexpr double longestDay = 49 * 3600.0; // a date that a zone repeated, with its hour
+    const platform::Instant start = calendar.startOfDay(date);
     LedgerDay day;
-    for (const LedgerRow& row : LedgerDayWalk::within(adjustments, {table.start(0), table.end()})) {
-        if (table.indexOf(row.date) == 0) {
+    for (const LedgerRow& row : LedgerDayWalk::within(adjustments, {start, start + longestDay})) {
+        if (calendar.isSameDay(row.date, start)) {
             day.totals.add(row.minutes);
             if (row.isListed) {
                 day.listed.push_back(row);
