@@ -60,21 +60,14 @@ Item {
         function test_carriesItsIdentifiersAndNames_data() {
             return [
                 { tag: "settings.screen", name: "Settings" },
-                { tag: "settings.appearance", name: "Theme" },
-                { tag: "settings.adjustmentKind.appointment", name: "Appointment" },
                 { tag: "settings.adjustmentKind.personalErrands", name: "Personal errands" },
-                { tag: "settings.adjustmentKind.longLunch", name: "Long lunch" },
-                { tag: "settings.adjustmentKind.other", name: "Other" },
-                { tag: "settings.customAdjustmentCategory.name", name: "New category" },
                 { tag: "settings.customAdjustmentCategory.add", name: "Add" },
-                { tag: "settings.launchAtLogin", name: "Launch Quillmere at login" },
-                { tag: "settings.showMenuBar", name: "Show time bank in menu bar" },
                 { tag: "settings.menuBarDisplayMode", name: "Menu bar display" },
-                { tag: "settings.closeToMenuBar", name: "Hide window to menu bar with ⌘W" },
-                { tag: "settings.retryICloud", name: "Retry iCloud sync" },
                 { tag: "settings.support", name: "Quillmere support" },
-                { tag: "settings.privacy", name: "Privacy notice" },
-                { tag: "settings.version", name: "Version" }
+                { tag: "settings.version", name: "Version" },
+                { tag: "settings.iCloudRetryFeedback",
+                  name: "Still unavailable. Your changes remain safely stored on this device." },
+                { tag: "settings.confirmImport", name: "Merge archive" }
             ];
         }
 
@@ -91,7 +84,8 @@ Item {
                 "settings.adjustmentKind.other", "settings.customAdjustmentCategory.remove",
                 "settings.customAdjustmentCategory.name", "settings.launchAtLogin",
                 "settings.showMenuBar", "settings.menuBarDisplayMode", "settings.closeToMenuBar",
-                "settings.retryICloud", "settings.support", "settings.privacy"]) {
+                "settings.retryICloud", "settings.support", "settings.privacy",
+                "settings.exportArchive", "settings.importArchive"]) {
                 compare(focusedName(), name);
                 const item = window.Window.activeFocusItem;
                 const top = item.mapToItem(window, 0, 0).y;
