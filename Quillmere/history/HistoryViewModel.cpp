@@ -6,7 +6,6 @@
 #include "Quillmere/shell/StoreSession.h"
 #include "Quillmere/shell/TimeFollower.h"
 
-#include <functional>
 #include <utility>
 
 namespace quillmere {
@@ -33,16 +32,6 @@ void remove(Context& context, const std::vector<RowRef>& refs) {
         }
     }
     context.save();
-}
-
-/// While the worker is busy with something else.
-void runHere(const std::function<void()>& work, const BackgroundWork::Done& done) {
-    try {
-        work();
-        done(nullptr);
-    } catch (const std::exception& problem) {
-        done(&problem);
-    }
 }
 
 } // namespace
@@ -158,9 +147,7 @@ void HistoryViewModel::deleteSeveral(Refs refs) {
         }
     };
     const QString title = tr("Deleting %1 items…").arg(count);
-    if (!appState_.work()->start(BackgroundWork::Kind::writing, title, work, done)) {
-        runHere(work, done);
-    }
+    appState_.work()->start(BackgroundWork::Kind::writing, title, std::move(work), done);
 }
 
 } // namespace quillmere
