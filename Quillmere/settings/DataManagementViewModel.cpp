@@ -11,6 +11,7 @@
 #include "Quillmere/shell/TimeFollower.h"
 #include "QuillmereKit/archive/TimeBankArchiveExport.h"
 #include "QuillmereKit/maintenance/DataStoreMaintenance.h"
+#include "QuillmereKit/maintenance/StorePreparation.h"
 #include "QuillmereKit/widget/WidgetSnapshotStore.h"
 
 #include <QtCore/QFile>
@@ -33,6 +34,15 @@ ExportedFile exportedFile(const TimeBankArchiveExport::File& file) {
             DataManagementViewModel::tr("%1 You can keep it as a copy of your data, but it can't "
                                         "be merged back.")
                 .arg(QString::fromStdString(*file.importObstacle))};
+}
+
+/// Has the repairs see many merged records here, so that the next screen need not. What fails is
+/// left to that screen: the merge is done.
+void lookThrough(Context& context) {
+    try {
+        StorePreparation::prepare(context);
+    } catch (const platform::store::StoreError&) { // NOLINT(bugprone-empty-catch)
+    }
 }
 
 void reportUnreadable(AppState& appState, const std::exception& error) {
@@ -153,6 +163,7 @@ void DataManagementViewModel::mergeArchive() {
     auto result = std::make_shared<TimeBankArchiveMergeResult>();
     auto work = onStore([archive, result](Context& context) {
         *result = archive->merge(context, context.clock().now());
+        lookThrough(context);
     });
     const auto done = [model = QPointer(this), &appState = services_.appState,
                        result](const std::exception* problem) {
