@@ -37,7 +37,7 @@ class AdjustmentEditorViewModel : public QObject {
     /// The category leaves the direction open.
     Q_PROPERTY(bool choosesDirection READ choosesDirection NOTIFY categoryChanged)
     Q_PROPERTY(QString directionCaption READ directionCaption NOTIFY categoryChanged)
-    Q_PROPERTY(QStringList directionTitles READ directionTitles CONSTANT)
+    Q_PROPERTY(QList<QString> directionTitles READ directionTitles CONSTANT)
     /// Position of the direction in `directionTitles`.
     Q_PROPERTY(int directionIndex READ directionIndex WRITE setDirectionIndex NOTIFY amountChanged)
     Q_PROPERTY(int maximumHours READ maximumHours CONSTANT)

@@ -143,7 +143,7 @@ ListView {
     onCountChanged: {
         // The row that had the keyboard may be among those that went.
         if (count < lastCount)
-            Qt.callLater(takeFocusBack);
+            Qt.callLater(takeFocusBack); // qmllint disable
         lastCount = count;
         if (currentIndex < 0 && count > 0)
             currentIndex = 0;
