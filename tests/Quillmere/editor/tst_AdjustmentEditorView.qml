@@ -99,7 +99,7 @@ Item {
             tabTo("Add");
             keyClick(Qt.Key_Right);
             compare(window.Window.activeFocusItem.Accessible.name, "Deduct");
-            verify(window.Window.activeFocusItem.checked);
+            verify(window.Window.activeFocusItem.checked); // qmllint disable
             keyClick(Qt.Key_Return, Qt.NoModifier);
             form.model.save();
             compare(Fixture.storedMinutes(), -90);

@@ -166,7 +166,7 @@ Item {
             verify(shown("Delete 2 items?"));
             keyClick(Qt.Key_Tab);
             compare(window.Window.activeFocusItem.objectName, "history.confirmDelete");
-            compare(window.Window.activeFocusItem.text, "Delete items");
+            compare(window.Window.activeFocusItem.text, "Delete items"); // qmllint disable
             keyClick(Qt.Key_Return);
             tryCompare(list, "count", 38);
             tryVerify(() => row(list.currentIndex).activeFocus, 5000, "the row in their place has the keyboard");
