@@ -6,7 +6,7 @@
 namespace quillmere {
 
 AdjustmentAmount AdjustmentAmount::of(std::int64_t minutes) {
-    constexpr std::int64_t most = maximumHours * 60;
+    constexpr std::int64_t most = std::int64_t{maximumHours} * 60;
     const int clamped = static_cast<int>(std::clamp(minutes, -most, most));
     AdjustmentAmount amount;
     amount.direction_ = clamped < 0 ? AdjustmentDirection::debit : AdjustmentDirection::credit;
