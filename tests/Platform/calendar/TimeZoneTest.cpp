@@ -82,7 +82,7 @@ TEST_F(SystemTimeZone, keepsTheSummerTimeOfARuleAsTheCLibraryDoes) {
         choose(rule);
         tzset();
         const Calendar calendar(TimeZone::system(), {});
-        for (std::time_t time = 946684800; time < 4102444800; time += 40 * 3600) { // 2000 to 2100
+        for (std::time_t time = 946684800; time < 4102444800; time += 144'000) { // 2000 to 2100
             std::tm local{};
             localtime_r(&time, &local);
             ASSERT_EQ(calendar.civilSeconds({static_cast<double>(time)}) - time, local.tm_gmtoff)
