@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <limits>
 
 namespace quillmere::test {
 
@@ -65,7 +66,9 @@ TEST(TrackedDays, CountOverlappingWorkOnce) {
         {"running, the break longer than the work", {{berlin(3, 2, 21), std::nullopt, 180}}, 0},
         {"ends later than now", {entry(22, 23.9)}, 1},
         {"a negative break", {entry(8, 12, -30)}, 4},
-        {"begins before all time", {{{-INFINITY}, berlin(3, 2, 8), 30}}, 8},
+        {"begins before all time",
+         {{{-std::numeric_limits<double>::infinity()}, berlin(3, 2, 8), 30}},
+         8},
         {"times that are none", {{{std::nan("")}, evening}, {berlin(3, 2), {{std::nan("")}}}}, 0},
     };
     for (const auto& row : rows) {
