@@ -32,7 +32,7 @@ public:
 
 private:
     static void change(const char* name) {
-        setenv("TZ", name, 1); // NOLINT(concurrency-mt-unsafe): the test has one thread
+        setenv("TZ", name, 1);
         tzset();
     }
 };

@@ -58,13 +58,13 @@ TEST(Region, ofTheSystemIsTheFirstVariableThatSaysSomething) {
         {"", "", "", "en_US"},
     };
     for (const auto& [all, time, lang, expected] : settings) {
-        setenv("LC_ALL", all, 1);   // NOLINT(concurrency-mt-unsafe): the test has one thread
-        setenv("LC_TIME", time, 1); // NOLINT(concurrency-mt-unsafe)
-        setenv("LANG", lang, 1);    // NOLINT(concurrency-mt-unsafe)
+        setenv("LC_ALL", all, 1);
+        setenv("LC_TIME", time, 1);
+        setenv("LANG", lang, 1);
         EXPECT_TRUE(Region::system().localeId().starts_with(expected))
             << Region::system().localeId();
     }
-    setenv("LC_ALL", "C.UTF-8", 1); // NOLINT(concurrency-mt-unsafe)
+    setenv("LC_ALL", "C.UTF-8", 1);
 }
 
 } // namespace

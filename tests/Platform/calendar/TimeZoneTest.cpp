@@ -22,7 +22,7 @@ public:
     ~SystemTimeZone() override { choose("UTC"); }
 
     static void choose(const std::string& setting) {
-        setenv("TZ", setting.c_str(), 1); // NOLINT(concurrency-mt-unsafe): the test has one thread
+        setenv("TZ", setting.c_str(), 1);
     }
 
     /// Hours from UTC that the system's zone shows in summer.

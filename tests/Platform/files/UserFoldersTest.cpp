@@ -15,7 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 void setVariable(const char* name, const char* value) {
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread
     value != nullptr ? ::setenv(name, value, 1) : ::unsetenv(name);
 }
 

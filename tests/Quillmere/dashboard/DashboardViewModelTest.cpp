@@ -131,11 +131,11 @@ TEST_F(DashboardViewModelTest, MovesWithTheTimeZone) {
     loadHistory();
     EXPECT_EQ(model().summary().todayText, "+1:00 today");
     EXPECT_EQ(recent(0).dateText.chopped(3), "Sun, Nov 22, 12:10");
-    setenv("TZ", "America/New_York", 1); // NOLINT(concurrency-mt-unsafe): no other thread reads it
+    setenv("TZ", "America/New_York", 1);
     time_.check();
     EXPECT_EQ(model().summary().todayText, "+0:00 today");
     EXPECT_EQ(recent(0).dateText.chopped(3), "Sat, Nov 21, 7:10");
-    setenv("TZ", "UTC", 1); // NOLINT(concurrency-mt-unsafe)
+    setenv("TZ", "UTC", 1);
 }
 
 TEST_F(DashboardViewModelTest, TakesInAChangeWhenItsMomentComes) {
