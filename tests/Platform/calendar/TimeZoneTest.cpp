@@ -21,9 +21,7 @@ class SystemTimeZone : public testing::Test {
 public:
     ~SystemTimeZone() override { choose("UTC"); }
 
-    static void choose(const std::string& setting) {
-        setenv("TZ", setting.c_str(), 1);
-    }
+    static void choose(const std::string& setting) { setenv("TZ", setting.c_str(), 1); }
 
     /// Hours from UTC that the system's zone shows in summer.
     static double hours() {
