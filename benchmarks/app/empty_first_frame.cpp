@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     const QGuiApplication application(argc, argv);
     QQmlApplicationEngine engine;
-    engine.loadData("import QtQuick.Controls.Basic\n"
+    engine.loadData("import QtQuick.Controls\n"
                     "ApplicationWindow { visible: true; width: 980; height: 700 }");
     auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
     if (window == nullptr) {
