@@ -1,10 +1,10 @@
 #include "Quillmere/app/MainSceneModel.h"
 
-#include "Quillmere/dashboard/ContinuousCountdown.h"
 #include "Quillmere/dashboard/DashboardViewModel.h"
 #include "Quillmere/history/HistoryViewModel.h"
 #include "Quillmere/reports/ReportsViewModel.h"
 #include "Quillmere/shell/AppStorageController.h"
+#include "Quillmere/shell/ContinuousCountdown.h"
 #include "Quillmere/shell/StoreSession.h"
 
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Quillmere/dashboard/Countdown.h"
+#include "Quillmere/shell/Countdown.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

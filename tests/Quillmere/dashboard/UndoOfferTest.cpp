@@ -1,6 +1,6 @@
 #include "Quillmere/dashboard/UndoOffer.h"
 
-#include "Quillmere/dashboard/ContinuousCountdown.h"
+#include "Quillmere/shell/ContinuousCountdown.h"
 #include "tests/Quillmere/dashboard/ManualCountdown.h"
 #include "tests/Quillmere/dashboard/TimeBankFixture.h"
 

@@ -1,4 +1,4 @@
-#include "Quillmere/dashboard/ContinuousCountdown.h"
+#include "Quillmere/shell/ContinuousCountdown.h"
 
 #include <sys/timerfd.h>
 #include <unistd.h>

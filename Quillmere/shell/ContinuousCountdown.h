@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/base/UniqueFd.h"
-#include "Quillmere/dashboard/Countdown.h"
+#include "Quillmere/shell/Countdown.h"
 
 #include <QtCore/QSocketNotifier>
 
