@@ -143,9 +143,9 @@ TEST_P(ContextTest, KeepsAProvisionalKeyFindingItsRecordAndNeverReusesASavedOne)
     EXPECT_EQ(context_->find<Reminder>(reminder.key()), &reminder);
     context_->remove(reminder);
     context_->save();
-    const Reminder& next = addReminder(*context_, "next");
+    const Reminder* next = &addReminder(*context_, "next");
     context_->save();
-    EXPECT_GT(next.key(), reminder.key());
+    EXPECT_GT(next->key(), reminder.key());
 }
 
 TEST_P(ContextTest, RefreshTakesInExactlyWhatOthersCommitted) {
