@@ -1,81 +1,34 @@
-"""A desktop for one program: a virtual display with a window manager, a private session bus with the
-accessibility bus on it, and an empty home."""
+"""A desktop for one program: a session with a virtual display and a window manager, and the
+accessibility bus."""
 import os
-import shutil
-import subprocess
-import tempfile
-from pathlib import Path
 
 import gi
 
-from . import children, picture
+from . import picture
+from .session import Session
 from .waiting import eventually
 
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
-HOME_FOLDERS = {
-    "XDG_DATA_HOME": "data",
-    "XDG_CONFIG_HOME": "config",
-    "XDG_CACHE_HOME": "cache",
-    "XDG_STATE_HOME": "state",
-    "XDG_RUNTIME_DIR": "runtime",
-    "TMPDIR": "tmp",
-}
-PASSED_ON = ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS", "QT_QUICK_BACKEND",
-             "QT_XCB_GL_INTEGRATION")
 
-
-class Desktop:
-    """Use as a context manager; everything is gone afterwards. `environment` is what a program
-    started on the desktop gets; `bus` and `accessibility_bus` are open connections."""
+class Desktop(Session):
+    """A session on whose display programs show themselves; `accessibility_bus` is a connection to
+    where they tell what they show."""
 
     def __init__(self, width=1280, height=1000, **environment):
+        super().__init__(**environment)
         self._size = (width, height)
-        self._extra = environment
-        self._processes = []
-
-    def __enter__(self):
-        self.home = Path(tempfile.mkdtemp(prefix="quillmere-desktop-"))
-        try:
-            self.environment = self._make_environment()
-            self._start_display()
-            self.bus = self._start_bus()
-            self._processes.append(self._start(["openbox"], env=self.environment))
-            self.accessibility_bus = self._connect(self._accessibility_address())
-            self._await_window_manager()
-        except BaseException:
-            self.__exit__()
-            raise
-        return self
-
-    def __exit__(self, *_):
-        for process in reversed(self._processes):
-            children.stop(process)
-        shutil.rmtree(self.home, ignore_errors=True)
 
     def screen(self):
         return picture.read_screen(self.home / "Xvfb_screen0")
 
-    def _make_environment(self):
-        environment = {name: os.environ[name] for name in PASSED_ON if name in os.environ}
-        environment |= {
-            "HOME": str(self.home),
-            "LC_ALL": "C.UTF-8",
-            "TZ": "UTC",
-            "GSETTINGS_BACKEND": "memory",
-            "LIBGL_ALWAYS_SOFTWARE": "1",
-            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-            "QT_QPA_PLATFORM": "xcb",
-        }
-        for name, folder in HOME_FOLDERS.items():
-            (self.home / folder).mkdir(mode=0o700)
-            environment[name] = str(self.home / folder)
-        return environment | self._extra
-
-    def _start(self, words, **options):
-        with open(self.home / "desktop.log", "ab") as log:
-            return children.start(words, stdin=subprocess.DEVNULL, stdout=log, stderr=log, **options)
+    def _open(self):
+        self._start_display()
+        super()._open()
+        self._processes.append(self._start(["openbox"], env=self.environment))
+        self.accessibility_bus = self._connect(self._accessibility_address())
+        self._await_window_manager()
 
     def _start_display(self):
         mine, theirs = os.pipe()
@@ -89,23 +42,6 @@ class Desktop:
         if not number:
             raise RuntimeError("no virtual display: " + (self.home / "desktop.log").read_text())
         self.environment["DISPLAY"] = f":{number}"
-
-    def _start_bus(self):
-        mine, theirs = os.pipe()
-        words = ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--print-address={theirs}",
-                 f"--address=unix:dir={self.home / 'runtime'}"]
-        self._processes.append(self._start(words, env=self.environment, pass_fds=[theirs]))
-        os.close(theirs)
-        with os.fdopen(mine) as answer:
-            address = answer.readline().strip()
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
-        return self._connect(address)
-
-    @staticmethod
-    def _connect(address):
-        flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-                 | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
-        return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
 
     def _accessibility_address(self):
         answer = self.bus.call_sync("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
