@@ -1,7 +1,9 @@
 #include "Quillmere/app/InstanceService.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusReply>
 
 #include <utility>
@@ -13,6 +15,8 @@ namespace {
 const QString service = QStringLiteral("dev.vantor.quillmere");
 const QString path = QStringLiteral("/dev/vantor/quillmere");
 const QString interface = QStringLiteral("org.freedesktop.Application");
+const QString actions = QStringLiteral("dev.vantor.quillmere.Actions");
+const QString actionsPath = QStringLiteral("/dev/vantor/quillmere/Actions");
 
 } // namespace
 
@@ -34,6 +38,12 @@ InstanceService::Claim InstanceService::claim() {
     }
     return reply.value() == QDBusConnectionInterface::ServiceRegistered ? Claim::first
                                                                         : Claim::second;
+}
+
+void InstanceService::release() {
+    bus_.interface()->unregisterService(service);
+    // What the bus sent before it answered is waiting.
+    QCoreApplication::sendPostedEvents(this);
 }
 
 bool InstanceService::handOver(const QList<QUrl>& urls, const StartRequest& request) {
@@ -58,10 +68,25 @@ void InstanceService::Open(const QStringList& uris, const QVariantMap& platformD
     emit activated(activationToken(platformData));
 }
 
-// The program publishes no actions of its own; asking for one brings it forward.
-void InstanceService::ActivateAction(const QString& /*name*/, const QVariantList& /*parameter*/,
-                                     const QVariantMap& platformData) {
-    emit activated(activationToken(platformData));
+void InstanceService::ActivateAction(const QString& name, const QVariantList& /*parameter*/,
+                                     const QVariantMap& /*platformData*/) {
+    QDBusMessage shortcut = QDBusMessage::createMethodCall(actions, actionsPath, actions,
+                                                           QStringLiteral("RunShortcut"));
+    answerWhenPerformed(bus_.asyncCall(shortcut << name));
+}
+
+void InstanceService::answerWhenPerformed(const QDBusPendingCall& call) {
+    setDelayedReply(true);
+    ++performing_;
+    auto* watcher = new QDBusPendingCallWatcher(call, this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, watcher, request = message()] {
+                bus_.send(watcher->isError() ? request.createErrorReply(watcher->error())
+                                             : request.createReply());
+                watcher->deleteLater();
+                --performing_;
+                emit performed();
+            });
 }
 
 } // namespace quillmere

@@ -1,5 +1,5 @@
+#include "Quillmere/app/ApplicationOnDemand.h"
 #include "Quillmere/app/InstanceService.h"
-#include "Quillmere/app/QuillmereMacApp.h"
 #include "Quillmere/app/StartRequest.h"
 #include "Quillmere/app/Version.h"
 
@@ -12,6 +12,9 @@
 
 namespace {
 
+using quillmere::InstanceService;
+using quillmere::StartRequest;
+
 QList<QUrl> urlsOf(const QStringList& arguments) {
     QList<QUrl> urls;
     for (const QString& argument : arguments) {
@@ -20,43 +23,59 @@ QList<QUrl> urlsOf(const QStringList& arguments) {
     return urls;
 }
 
-QList<QUrl> parseCommandLine(const QGuiApplication& application) {
+struct CommandLine {
+    QList<QUrl> urls;
+    /// The bus started the program: it does what it is called for and shows nothing by itself.
+    bool isService = false;
+};
+
+CommandLine parseCommandLine(const QGuiApplication& application) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("A manual time bank"));
     parser.addHelpOption();
     parser.addVersionOption();
+    const QCommandLineOption service(
+        QStringLiteral("service"),
+        QStringLiteral("Show nothing until called on the session bus; how the bus starts it."));
+    parser.addOption(service);
     parser.addPositionalArgument(QStringLiteral("urls"),
                                  QStringLiteral("quillmere:// links to open"),
                                  QStringLiteral("[urls…]"));
     parser.process(application);
-    return urlsOf(parser.positionalArguments());
+    return {urlsOf(parser.positionalArguments()), parser.isSet(service)};
+}
+
+int handOver(InstanceService& instance, const CommandLine& line, const StartRequest& request) {
+    return line.isService || instance.handOver(line.urls, request) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const auto request = quillmere::StartRequest::ofEnvironment();
+    const auto request = StartRequest::ofEnvironment();
     QGuiApplication::setApplicationName(QStringLiteral("quillmere"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillmere"));
     QGuiApplication::setApplicationVersion(QString::fromUtf8(quillmere::versionText));
     QGuiApplication::setDesktopFileName(QStringLiteral("dev.vantor.quillmere"));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     const QGuiApplication application(argc, argv);
-    const QList<QUrl> urls = parseCommandLine(application);
+    const CommandLine line = parseCommandLine(application);
 
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    quillmere::InstanceService instance(bus);
-    if (instance.claim() == quillmere::InstanceService::Claim::second) {
-        return instance.handOver(urls, request) ? EXIT_SUCCESS : EXIT_FAILURE;
+    InstanceService instance(bus);
+    const InstanceService::Claim claim = instance.claim();
+    if (claim == InstanceService::Claim::second) {
+        return handOver(instance, line, request);
     }
 
-    quillmere::QuillmereMacApp app(bus);
-    QObject::connect(&instance, &quillmere::InstanceService::opened, &app,
-                     &quillmere::QuillmereMacApp::open);
-    QObject::connect(&instance, &quillmere::InstanceService::activated, &app,
-                     &quillmere::QuillmereMacApp::raise);
-    for (const QUrl& url : urls) {
-        app.open(url);
+    quillmere::ApplicationOnDemand demand(instance, bus);
+    if (line.isService && claim == InstanceService::Claim::first) {
+        demand.endWhenNotNeeded();
+    } else {
+        for (const QUrl& url : line.urls) {
+            demand.open(url);
+        }
+        demand.activate(QString());
     }
-    return app.show() ? QGuiApplication::exec() : EXIT_FAILURE;
+    return QGuiApplication::exec();
 }

@@ -1,6 +1,9 @@
 #include "Quillmere/app/InstanceService.h"
 
 #include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtDBus/QDBusContext>
+#include <QtDBus/QDBusPendingCallWatcher>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -60,6 +63,73 @@ TEST(InstanceServiceTest, SecondStartHandsOverToTheFirst) {
             EXPECT_EQ(opened[i][0].toUrl(), row.urls[i]);
         }
     }
+    first.release();
+}
+
+/// The action program in the test's own words.
+class Actions final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "dev.vantor.quillmere.Actions")
+
+public slots:
+    Q_SCRIPTABLE QString RunShortcut(const QString& id) {
+        if (id == QStringLiteral("unknown")) {
+            sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("no such shortcut"));
+            return {};
+        }
+        performed.append(id);
+        return QStringLiteral("Done.");
+    }
+
+public:
+    QStringList performed;
+};
+
+TEST(InstanceServiceTest, HasTheActionProgramPerformActionsAndAnswersAsItDoes) {
+    Actions actions;
+    auto bus = connectAs("actions");
+    ASSERT_TRUE(bus.registerObject(QStringLiteral("/dev/vantor/quillmere/Actions"), &actions,
+                                   QDBusConnection::ExportScriptableSlots));
+    ASSERT_TRUE(bus.registerService(QStringLiteral("dev.vantor.quillmere.Actions")));
+    InstanceService instance(connectAs("instance"));
+    ASSERT_EQ(instance.claim(), Claim::first);
+    QSignalSpy activated(&instance, &InstanceService::activated);
+    QSignalSpy performed(&instance, &InstanceService::performed);
+
+    const auto activate = [](const char* action) {
+        auto call = QDBusMessage::createMethodCall(
+            QStringLiteral("dev.vantor.quillmere"), QStringLiteral("/dev/vantor/quillmere"),
+            QStringLiteral("org.freedesktop.Application"), QStringLiteral("ActivateAction"));
+        call << QString::fromLatin1(action) << QVariantList() << QVariantMap();
+        QDBusPendingCallWatcher answer(connectAs("shell").asyncCall(call));
+        QSignalSpy answered(&answer, &QDBusPendingCallWatcher::finished);
+        EXPECT_TRUE(answered.wait(30'000));
+        return answer.error().name();
+    };
+    EXPECT_EQ(activate("add-30-minutes"), QString());
+    EXPECT_EQ(actions.performed, QStringList{QStringLiteral("add-30-minutes")});
+    EXPECT_EQ(activate("unknown"), QDBusError::errorString(QDBusError::InvalidArgs));
+    EXPECT_EQ(performed.count(), 2);
+    EXPECT_FALSE(instance.isPerforming());
+    EXPECT_EQ(activated.count(), 0);
+    instance.release();
+}
+
+TEST(InstanceServiceTest, DeliversWhatCameBeforeItGaveTheNameUp) {
+    InstanceService first(connectAs("first"));
+    ASSERT_EQ(first.claim(), Claim::first);
+    QSignalSpy activated(&first, &InstanceService::activated);
+    auto call = QDBusMessage::createMethodCall(
+        QStringLiteral("dev.vantor.quillmere"), QStringLiteral("/dev/vantor/quillmere"),
+        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    auto shell = connectAs("shell");
+    const auto answer = shell.asyncCall(call << QVariantMap());
+    // The bus has sent the call on when it answers this one.
+    ASSERT_TRUE(shell.interface()->isServiceRegistered(QStringLiteral("dev.vantor.quillmere")));
+    first.release();
+    EXPECT_EQ(activated.count(), 1);
+    InstanceService second(connectAs("second"));
+    EXPECT_EQ(second.claim(), Claim::first);
 }
 
 TEST(InstanceServiceTest, RunsAloneWithoutABus) {
@@ -69,3 +139,5 @@ TEST(InstanceServiceTest, RunsAloneWithoutABus) {
 
 } // namespace
 } // namespace quillmere
+
+#include "InstanceServiceTest.moc"
