@@ -1,5 +1,7 @@
 #include "Quillmere/shell/MenuBarDisplayMode.h"
 
+#include <algorithm>
+
 namespace quillmere {
 
 std::string_view rawValue(MenuBarDisplayMode mode) {
@@ -24,6 +26,12 @@ std::string_view title(MenuBarDisplayMode mode) {
         break;
     }
     return "Logo + available flex time";
+}
+
+MenuBarDisplayMode MenuBarDisplayModes::of(std::string_view storedValue) {
+    const auto* found = std::ranges::find_if(
+        all, [storedValue](MenuBarDisplayMode mode) { return rawValue(mode) == storedValue; });
+    return found == all.end() ? MenuBarDisplayMode::logoAndBalance : *found;
 }
 
 } // namespace quillmere

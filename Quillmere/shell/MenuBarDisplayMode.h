@@ -17,6 +17,9 @@ namespace MenuBarDisplayModes {
 inline constexpr std::array all{MenuBarDisplayMode::logoAndBalance, MenuBarDisplayMode::logoOnly,
                                 MenuBarDisplayMode::balanceOnly};
 
+/// The mode with this stored form; the logo with the balance when there is none.
+[[nodiscard]] MenuBarDisplayMode of(std::string_view storedValue);
+
 } // namespace MenuBarDisplayModes
 
 } // namespace quillmere
