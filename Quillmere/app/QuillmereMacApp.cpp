@@ -31,6 +31,7 @@ StoreLocations locationsIn(const platform::UserFolders& folders) {
 
 QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
     : QObject(parent),
+      bus_(bus),
       folders_(platform::UserFolders::ofEnvironment()),
       preferences_(folders_.configuration() / "dev.vantor.quillmere"),
       prototype_(folders_.configuration() / "dev.vantor.Quillmere"),
@@ -47,8 +48,7 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       appState_(log_),
       storage_(container_, container_.make(), time_),
       routes_(preferences_),
-      // There is no tray item yet to come back from.
-      delegate_(preferences_, [] { return false; }),
+      delegate_(preferences_),
       mainWindowModel_(windows(),
                        [this](StoreSession& session) {
                            return std::make_unique<MainSceneModel>(
@@ -58,11 +58,11 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
                        }),
       settingsWindow_(engine_, windows(), [this](StoreSession& session) {
           return std::make_unique<SettingsViewModel>(session, settingsServices());
-      }) {
+      }),
+      keeper_(delegate_, [this] { return !menuBarExtra_ || menuBarExtra_->isMissing(); }) {
     QDesktopServices::setUrlHandler(deepLinkScheme, this, "open");
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    connect(qGuiApp, &QGuiApplication::lastWindowClosed, this,
-            &QuillmereMacApp::onLastWindowClosed);
+    connect(&keeper_, &WindowKeeper::mainWindowRequested, this, [this] { raise(QString()); });
+    connect(&keeper_, &WindowKeeper::quitRequested, qGuiApp, &QGuiApplication::quit);
     connect(&mainWindowModel_, &WindowModel::settingsRequested, &settingsWindow_,
             &SettingsWindow::open);
     connect(&preferencesFollower_, &PreferencesFollower::changed, &appearance_,
@@ -83,6 +83,9 @@ bool QuillmereMacApp::show() {
     if (mainWindow() == nullptr) {
         return false;
     }
+    keeper_.keep(*mainWindow());
+    connect(mainWindow(), &QQuickWindow::frameSwapped, this, &QuillmereMacApp::onFirstFrame,
+            Qt::SingleShotConnection);
     // Drawn after the first frame; only window managers that know no desktop files ask for it.
     QTimer::singleShot(0, this, [this] {
         QGuiApplication::setWindowIcon(QIcon(windowIcon));
@@ -114,9 +117,20 @@ void QuillmereMacApp::raise(const QString& token) {
     qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
-void QuillmereMacApp::onLastWindowClosed() {
-    if (delegate_.applicationShouldTerminateAfterLastWindowClosed()) {
-        QGuiApplication::quit();
+// The item is no part of what the user waits for.
+void QuillmereMacApp::onFirstFrame() {
+    menuBarExtra_ = std::make_unique<MenuBarExtra>(bus_, storage_, preferencesFollower_);
+    connect(menuBarExtra_.get(), &MenuBarExtra::changed, &keeper_, &WindowKeeper::check);
+    connect(menuBarExtra_.get(), &MenuBarExtra::appeared, this, &QuillmereMacApp::finishStart);
+    connect(menuBarExtra_.get(), &MenuBarExtra::mainWindowRequested, this,
+            [this] { raise(QString()); });
+    connect(menuBarExtra_.get(), &MenuBarExtra::quitRequested, qGuiApp, &QGuiApplication::quit);
+}
+
+// Not over a window that the user has gone to meanwhile.
+void QuillmereMacApp::finishStart() {
+    if (QGuiApplication::focusWindow() == nullptr) {
+        raise(QString());
     }
 }
 

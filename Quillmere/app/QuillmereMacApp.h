@@ -7,7 +7,10 @@
 #include "Platform/log/Log.h"
 #include "Platform/preferences/FilePreferences.h"
 #include "Quillmere/app/MainSceneModel.h"
+#include "Quillmere/app/MenuBarExtra.h"
 #include "Quillmere/app/SettingsWindow.h"
+#include "Quillmere/app/TerminationSignals.h"
+#include "Quillmere/app/WindowKeeper.h"
 #include "Quillmere/app/WindowModel.h"
 #include "Quillmere/shell/AppModelContainer.h"
 #include "Quillmere/shell/BuildStoreOpener.h"
@@ -21,6 +24,8 @@
 #include <QtCore/QUrl>
 #include <QtDBus/QDBusConnection>
 #include <QtQml/QQmlApplicationEngine>
+
+#include <memory>
 
 class QQuickWindow;
 
@@ -45,12 +50,14 @@ public slots:
     void raise(const QString& token);
 
 private:
-    void onLastWindowClosed();
+    void onFirstFrame();
+    void finishStart();
     void followPreferences();
     [[nodiscard]] WindowModel::Application windows();
     [[nodiscard]] SettingsViewModel::Services settingsServices();
     [[nodiscard]] QQuickWindow* mainWindow() const;
 
+    QDBusConnection bus_;
     platform::SystemLogSink log_;
     platform::SystemClock clock_;
     platform::UserFolders folders_;
@@ -72,6 +79,9 @@ private:
     WindowModel mainWindowModel_;
     QQmlApplicationEngine engine_;
     SettingsWindow settingsWindow_;
+    std::unique_ptr<MenuBarExtra> menuBarExtra_; ///< null until the first frame
+    WindowKeeper keeper_;
+    TerminationSignals terminationSignals_;
 };
 
 } // namespace quillmere

@@ -5,8 +5,8 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtDBus/QDBusConnection>
-#include <QtGui/QGuiApplication>
 #include <QtQuickControls2/QQuickStyle>
+#include <QtWidgets/QApplication>
 
 #include <cstdlib>
 
@@ -58,7 +58,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationVersion(QString::fromUtf8(quillmere::versionText));
     QGuiApplication::setDesktopFileName(QStringLiteral("dev.vantor.quillmere"));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv); // a tray item needs it
     const CommandLine line = parseCommandLine(application);
 
     const QDBusConnection bus = QDBusConnection::sessionBus();

@@ -2,26 +2,20 @@
 
 #include "Platform/preferences/Preferences.h"
 
-#include <functional>
-
 namespace quillmere {
 
 /// Decides whether the program ends when its last window was closed.
 class QuillmereMacAppDelegate {
 public:
-    /// `preferences` is the standard domain and must outlive the object. `hasTrayHost` answers
-    /// whether the desktop shows a tray item now.
-    QuillmereMacAppDelegate(const platform::Preferences& preferences,
-                            std::function<bool()> hasTrayHost);
+    /// `preferences` is the standard domain and must outlive the object.
+    explicit QuillmereMacAppDelegate(const platform::Preferences& preferences);
 
-    /// False when the user wants the window to close to the tray ("closeWindowToMenuBar") and there
-    /// is a tray to come back from: then the program runs on without a window. Otherwise nothing
-    /// could bring the window back, and the program ends.
+    /// False when the user wants the window to close to the tray ("closeWindowToMenuBar"): then the
+    /// program runs on without a window.
     [[nodiscard]] bool applicationShouldTerminateAfterLastWindowClosed() const;
 
 private:
     const platform::Preferences& preferences_;
-    std::function<bool()> hasTrayHost_;
 };
 
 } // namespace quillmere

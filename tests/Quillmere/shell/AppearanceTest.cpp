@@ -66,21 +66,12 @@ TEST(DesktopLookTest, ReadsWhatThePortalSays) {
     }
 }
 
-TEST(QuillmereMacAppDelegateTest, TheLastWindowEndsTheProgramUnlessThereIsATrayToComeBackFrom) {
-    struct CloseRow {
-        std::optional<bool> closesToTray;
-        bool trayHost;
-        bool terminates;
-    };
-    for (const CloseRow row : {CloseRow{{}, true, true}, CloseRow{false, true, true},
-                               CloseRow{true, true, false}, CloseRow{true, false, true}}) {
-        platform::MemoryPreferences preferences;
-        if (row.closesToTray) {
-            preferences.setBoolean("closeWindowToMenuBar", *row.closesToTray);
-        }
-        const QuillmereMacAppDelegate delegate(preferences, [&row] { return row.trayHost; });
-        EXPECT_EQ(delegate.applicationShouldTerminateAfterLastWindowClosed(), row.terminates);
-    }
+TEST(QuillmereMacAppDelegateTest, TheLastWindowEndsTheProgramUnlessItClosesToTheTray) {
+    platform::MemoryPreferences preferences;
+    const QuillmereMacAppDelegate delegate(preferences);
+    EXPECT_TRUE(delegate.applicationShouldTerminateAfterLastWindowClosed());
+    preferences.setBoolean("closeWindowToMenuBar", true);
+    EXPECT_FALSE(delegate.applicationShouldTerminateAfterLastWindowClosed());
 }
 
 } // namespace

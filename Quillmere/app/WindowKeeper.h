@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Quillmere/shell/QuillmereMacAppDelegate.h"
+
+#include <QtCore/QObject>
+
+#include <functional>
+
+class QWindow;
+
+namespace quillmere {
+
+/// What closing windows means: the end of the program, or that it runs on behind its tray item. It
+/// sees to it that nobody is left with a program that runs out of reach. Main thread.
+class WindowKeeper : public QObject {
+    Q_OBJECT
+
+public:
+    /// `isOutOfReach` answers whether a program without windows would have nothing to come back
+    /// from although the user wants an item in the tray. `delegate` must outlive the object.
+    WindowKeeper(const QuillmereMacAppDelegate& delegate, std::function<bool()> isOutOfReach,
+                 QObject* parent = nullptr);
+
+    /// The window that is kept. It must outlive the object.
+    void keep(QWindow& mainWindow);
+
+    /// Called when `isOutOfReach` may answer differently.
+    void check();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void mainWindowRequested();
+    void quitRequested();
+
+private:
+    void onLastWindowClosed();
+    [[nodiscard]] bool refusesToClose() const;
+
+    const QuillmereMacAppDelegate& delegate_;
+    std::function<bool()> isOutOfReach_;
+    QWindow* mainWindow_ = nullptr;
+    bool isHidden_ = false; ///< runs on without a window of its own
+    bool isLeaving_ = false;
+};
+
+} // namespace quillmere
