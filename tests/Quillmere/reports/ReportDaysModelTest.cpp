@@ -43,8 +43,8 @@ protected:
                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
-constexpr auto week = ReportGranularity::week;
-constexpr auto month = ReportGranularity::month;
+constexpr auto ofAWeek = ReportGranularity::week;
+constexpr auto ofAMonth = ReportGranularity::month;
 
 } // namespace
 
@@ -56,11 +56,11 @@ TEST_F(ReportDaysModelTest, PutsEachDayUnderItsWeekday) {
         int blanks;
         int rows;
     } cases[] = {
-        {"November from a Sunday", {2026, 11, 5}, month, 6, 36},
-        {"a February of four weeks", {2021, 2, 5}, month, 0, 28},
-        {"a week", {2026, 11, 5}, week, 0, 7},
-        {"a month with a day without midnight", {2018, 11, 5}, month, 3, 33},
-        {"nothing before the first again", {2026, 6, 30}, month, 0, 30},
+        {"November from a Sunday", {2026, 11, 5}, ofAMonth, 6, 36},
+        {"a February of four weeks", {2021, 2, 5}, ofAMonth, 0, 28},
+        {"a week", {2026, 11, 5}, ofAWeek, 0, 7},
+        {"a month with a day without midnight", {2018, 11, 5}, ofAMonth, 3, 33},
+        {"nothing before the first again", {2026, 6, 30}, ofAMonth, 0, 30},
     };
     for (const auto& one : cases) {
         SCOPED_TRACE(one.name);
@@ -68,15 +68,15 @@ TEST_F(ReportDaysModelTest, PutsEachDayUnderItsWeekday) {
         ASSERT_EQ(model_.rowCount(), one.rows);
         for (int row = 0; row < one.rows; ++row) {
             const int number = at(row, ReportDaysModel::NumberRole).toInt();
-            EXPECT_EQ(number, row < one.blanks           ? 0
-                              : one.granularity == month ? row - one.blanks + 1
-                                                         : row + 2);
+            EXPECT_EQ(number, row < one.blanks              ? 0
+                              : one.granularity == ofAMonth ? row - one.blanks + 1
+                                                            : row + 2);
         }
     }
 }
 
 TEST_F(ReportDaysModelTest, SaysWhatADayIs) {
-    show({2026, 11, 1}, month, 22);
+    show({2026, 11, 1}, ofAMonth, 22);
     const auto text = [&](int role) { return at(6 + 21, role).toString().toStdString(); };
     // The comma after the weekday comes and goes with ICU's data.
     EXPECT_TRUE(text(ReportDaysModel::SpokenDateRole).starts_with("Sunday"));
@@ -94,13 +94,13 @@ TEST_F(ReportDaysModelTest, SaysWhatADayIs) {
 }
 
 TEST_F(ReportDaysModelTest, KeepsTheCursorInThePeriod) {
-    show({2026, 10, 1}, month);
+    show({2026, 10, 1}, ofAMonth);
     model_.setCursor(calendar_.startOfDay(CivilDate{2026, 10, 31}).value());
     QSignalSpy moved(&model_, &ReportDaysModel::cursorRowChanged);
-    show({2026, 11, 1}, month);
+    show({2026, 11, 1}, ofAMonth);
     EXPECT_EQ(numberAtCursor(), 30);
     EXPECT_EQ(moved.count(), 1);
-    show({2026, 11, 1}, month, 3);
+    show({2026, 11, 1}, ofAMonth, 3);
     EXPECT_EQ(moved.count(), 1);
     const struct {
         const char* name;
@@ -128,11 +128,11 @@ TEST_F(ReportDaysModelTest, KeepsTheCursorInThePeriod) {
 }
 
 TEST_F(ReportDaysModelTest, UpdatesOnlyFromTheFirstDayThatDiffers) {
-    show({2026, 11, 1}, month);
+    show({2026, 11, 1}, ofAMonth);
     QSignalSpy changed(&model_, &ReportDaysModel::dataChanged);
-    show({2026, 11, 1}, month);
+    show({2026, 11, 1}, ofAMonth);
     EXPECT_EQ(changed.count(), 0);
-    show({2026, 11, 1}, month, 20);
+    show({2026, 11, 1}, ofAMonth, 20);
     ASSERT_EQ(changed.count(), 1);
     EXPECT_EQ(changed[0][0].toModelIndex().row(), 6 + 19);
     model_.setDays({}, calendar_, platform::Instant{});
