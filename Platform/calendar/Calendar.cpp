@@ -1,6 +1,7 @@
 #include "Platform/calendar/Calendar.h"
 
 #include "Platform/calendar/CivilLookup.h"
+#include "Platform/calendar/RegionMonths.h"
 
 #include <algorithm>
 #include <cmath>
@@ -81,7 +82,8 @@ std::optional<Instant> Calendar::addingDays(Instant instant, int days) const {
 std::optional<Instant> Calendar::addingMonths(Instant instant, int months) const {
     if (!isInRange(instant))
         return std::nullopt;
-    return moved(zone_, instant, dayOf(platform::addingMonths(civilDate(instant), months)));
+    return moved(zone_, instant,
+                 dayOf(platform::addingMonths(region_, civilDate(instant), months)));
 }
 
 std::optional<Instant> Calendar::atDate(CivilDate date, Instant time) const {
@@ -101,9 +103,10 @@ DateInterval Calendar::weekInterval(Instant instant) const {
 }
 
 DateInterval Calendar::monthInterval(Instant instant) const {
-    const cctz::civil_month month(civilTime(zone_, instant));
-    return {instantOf(firstSecondFrom(cctz::civil_day(month), zone_.rules())),
-            instantOf(firstSecondFrom(cctz::civil_day(month + 1), zone_.rules()))};
+    const CivilDate first = firstOfMonth(region_, civilDate(instant));
+    const CivilDate next = firstOfMonth(region_, platform::addingMonths(region_, first, 1));
+    return {instantOf(firstSecondFrom(dayOf(first), zone_.rules())),
+            instantOf(firstSecondFrom(dayOf(next), zone_.rules()))};
 }
 
 CivilDate Calendar::civilDate(Instant instant) const {

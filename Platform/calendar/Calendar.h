@@ -21,8 +21,8 @@ namespace platform {
 /// has no start. Where a zone set its clocks back across midnight, an hour of the old date follows
 /// the start of the new one; it belongs to the old date.
 ///
-/// Days and months are Gregorian here whatever the region's calendar system; only `DateText` writes
-/// dates in that system.
+/// Civil dates are Gregorian whatever the region's calendar system; months are those of that system
+/// (`RegionMonths.h`), in which `DateText` writes dates too.
 ///
 /// Every function takes every instant: outside `earliest` … `latest` the nearer of the two is
 /// meant, and 1970 for an instant that is not a number.

@@ -1,16 +1,18 @@
 #include "Platform/calendar/MonthGrid.h"
 
+#include "Platform/calendar/CivilLookup.h"
+#include "Platform/calendar/RegionMonths.h"
+
 #include <cstddef>
 
 namespace platform {
 
 MonthGrid::MonthGrid(const Calendar& calendar, CivilDate date) {
-    date.day = 1;
-    leadingBlanks_ = (weekdayOf(date) - calendar.firstWeekday() + 7) % 7;
-    const int count = daysInMonth(date.year, date.month);
-    days_.reserve(static_cast<std::size_t>(count));
-    for (; date.day <= count; ++date.day)
-        days_.push_back({date, calendar.startOfDay(date)});
+    const CivilDate first = firstOfMonth(calendar.region(), date);
+    leadingBlanks_ = (weekdayOf(first) - calendar.firstWeekday() + 7) % 7;
+    const auto next = dayOf(addingMonths(calendar.region(), first, 1));
+    for (auto day = dayOf(first); day < next; ++day)
+        days_.push_back({dateOf(day), calendar.startOfDay(dateOf(day))});
 }
 
 int MonthGrid::weekCount() const {

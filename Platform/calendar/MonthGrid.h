@@ -9,8 +9,8 @@
 namespace platform {
 
 /// A month as a date picker draws it: seven columns that begin with the calendar's first weekday,
-/// and a row for each week the month touches. Another month is `addingMonths(first(), n)` in a new
-/// grid.
+/// and a row for each week the month touches. Another month is `addingMonths(region, first(), n)`
+/// in a new grid.
 class MonthGrid {
 public:
     struct Day {

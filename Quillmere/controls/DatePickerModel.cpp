@@ -1,6 +1,6 @@
 #include "Quillmere/controls/DatePickerModel.h"
 
-#include "Platform/calendar/CivilDate.h"
+#include "Platform/calendar/RegionMonths.h"
 
 #include <algorithm>
 
@@ -14,10 +14,6 @@ using platform::Instant;
 using platform::MonthGrid;
 
 constexpr int daysPerWeek = 7;
-
-bool isSameMonth(CivilDate a, CivilDate b) {
-    return a.year == b.year && a.month == b.month;
-}
 
 QVariant emptyCell(int role) {
     switch (role) {
@@ -63,7 +59,8 @@ QString DatePickerModel::monthTitle() const {
 }
 
 bool DatePickerModel::hasNextMonth() const {
-    return platform::addingMonths(month_.first(), 1) <= calendar_.civilDate(today());
+    const CivilDate next = platform::addingMonths(calendar_.region(), month_.first(), 1);
+    return next <= calendar_.civilDate(today());
 }
 
 QStringList DatePickerModel::weekdays() const {
@@ -75,7 +72,8 @@ QStringList DatePickerModel::weekdays() const {
 }
 
 int DatePickerModel::cursorRow() const {
-    return month_.leadingBlanks() + calendar_.civilDate(cursor_).day - 1;
+    const CivilDate date = calendar_.civilDate(cursor_);
+    return month_.leadingBlanks() + platform::dayOfMonth(calendar_.region(), date) - 1;
 }
 
 void DatePickerModel::showSelected() {
@@ -90,7 +88,8 @@ void DatePickerModel::moveDays(int days) {
 }
 
 void DatePickerModel::moveMonths(int months) {
-    CivilDate date = platform::addingMonths(calendar_.civilDate(cursor_), months);
+    CivilDate date =
+        platform::addingMonths(calendar_.region(), calendar_.civilDate(cursor_), months);
     auto start = calendar_.startOfDay(date);
     // A zone may have skipped the very day.
     while (!start && date.day > 1) {
@@ -148,7 +147,7 @@ QVariant DatePickerModel::data(const QModelIndex& index, int role) const {
 QVariant DatePickerModel::dayData(const MonthGrid::Day& day, int role) const {
     switch (role) {
     case NumberRole:
-        return day.date.day;
+        return platform::dayOfMonth(calendar_.region(), day.date);
     case SpokenRole:
         return QString::fromStdString(dates_.text(day.date, DateStyle::fullDay));
     case SelectableRole:
@@ -203,7 +202,8 @@ void DatePickerModel::setCursor(Instant startOfDay) {
         return;
     }
     cursor_ = startOfDay;
-    if (!isSameMonth(calendar_.civilDate(cursor_), month_.first())) {
+    const CivilDate date = calendar_.civilDate(cursor_);
+    if (platform::firstOfMonth(calendar_.region(), date) != month_.first()) {
         resetMonth();
     }
     emit cursorRowChanged();

@@ -1,5 +1,6 @@
 #include "Quillmere/reports/ReportDaysModel.h"
 
+#include "Platform/calendar/RegionMonths.h"
 #include "QuillmereKit/rules/DurationFormatting.h"
 
 #include <algorithm>
@@ -43,10 +44,11 @@ std::vector<ReportDaysModel::Cell> ReportDaysModel::cellsOf(std::span<const DayB
                                                             const Calendar& calendar, Instant now) {
     std::vector<Cell> cells(static_cast<std::size_t>(leadingBlanks(days, calendar)));
     for (const DayBalance& day : days) {
-        cells.push_back({.date = day.date,
-                         .seconds = day.adjustmentSeconds,
-                         .number = calendar.civilDate(day.date).day,
-                         .isToday = calendar.isSameDay(day.date, now)});
+        cells.push_back(
+            {.date = day.date,
+             .seconds = day.adjustmentSeconds,
+             .number = platform::dayOfMonth(calendar.region(), calendar.civilDate(day.date)),
+             .isToday = calendar.isSameDay(day.date, now)});
     }
     return cells;
 }

@@ -1,5 +1,6 @@
 #include "Platform/calendar/MonthGrid.h"
 
+#include "Platform/calendar/RegionMonths.h"
 #include "tests/Platform/calendar/OddZones.h"
 
 #include <gtest/gtest.h>
@@ -42,6 +43,22 @@ TEST(MonthGrid, keepsASkippedDateInItsPlaceWithoutAStart) {
     ASSERT_EQ(grid.days().size(), 31U);
     for (const auto& day : grid.days())
         EXPECT_EQ(day.start.has_value(), day.date.day != 30) << day.date.day;
+}
+
+// The 30th of Aban 1405 was November 21, 2026.
+TEST(MonthGrid, followsTheMonthsOfTheRegion) {
+    const auto calendar = calendarIn("Asia/Tehran", "fa_IR");
+    const MonthGrid aban(calendar, {2026, 11, 21});
+    EXPECT_EQ(aban.first(), (CivilDate{2026, 10, 23}));
+    EXPECT_EQ(aban.days().size(), 30U);
+    EXPECT_EQ(dayOfMonth(calendar.region(), {2026, 11, 21}), 30);
+    EXPECT_EQ(addingMonths(calendar.region(), {2026, 9, 22}, 1), (CivilDate{2026, 10, 22}))
+        << "31 Shahrivar, 30 Mehr";
+    const auto azar = calendar.monthInterval(*calendar.startOfDay(CivilDate{2026, 11, 22}));
+    EXPECT_EQ(calendar.civilDate(azar.start), (CivilDate{2026, 11, 22}));
+    EXPECT_EQ(calendar.civilDate(azar.end), (CivilDate{2026, 12, 22}));
+    for (const Instant edge : {Calendar::earliest, Calendar::latest})
+        EXPECT_TRUE(calendar.monthInterval(edge).contains(edge));
 }
 
 TEST(CivilDate, knowsWhichDatesExist) {
