@@ -99,7 +99,8 @@ void MenuBarIconDigits::drawPrefix(QPainter& painter, double left, double top, Q
         painter.fillRect(QRectF(left, top + height_ - inset - stroke, stroke, stroke), color);
         return;
     }
-    const double middle = top + (height_ - stroke) / 2; // NOLINT(bugprone-integer-division)
+    const int above = (height_ - stroke) / 2;
+    const double middle = top + above;
     painter.fillRect(QRectF(left, middle, signWidth_, stroke), color);
     if (prefix == u'+') {
         const int arm = (signWidth_ - stroke) / 2;

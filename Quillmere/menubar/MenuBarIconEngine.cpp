@@ -29,7 +29,7 @@ QPixmap MenuBarIconEngine::pixmap(const QSize& size, QIcon::Mode /*mode*/, QIcon
     const int side = std::min(size.width(), size.height());
     QPainter painter(&result);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.translate((size.width() - side) / 2, (size.height() - side) / 2);
+    painter.translate(QPoint(size.width() - side, size.height() - side) / 2);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground_);
     painter.drawRoundedRect(QRect(0, 0, side, side), side * cornerShare, side * cornerShare);

@@ -3,6 +3,7 @@
 #include "Platform/preferences/MemoryPreferences.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
@@ -20,6 +21,15 @@ public:
     }
 
 protected:
+    /// Within the event loop, because Qt tells of the last window only there.
+    static void close(QWindow& window) {
+        QTimer::singleShot(0, [&window] {
+            window.close();
+            QCoreApplication::exit();
+        });
+        QCoreApplication::exec();
+    }
+
     void closesToTray(bool does) { preferences_.setBoolean("closeWindowToMenuBar", does); }
 
     bool isOutOfReach_ = false;
@@ -48,7 +58,7 @@ TEST_F(WindowKeeperTest, ClosingEndsTheProgramHidesTheWindowOrKeepsIt) {
         window_.show();
         closesToTray(row.closesToTray);
         isOutOfReach_ = row.isOutOfReach;
-        window_.close();
+        close(window_);
         EXPECT_EQ(window_.isVisible(), row.isKept);
         EXPECT_EQ(quits_.count(), row.quits);
     }
@@ -57,7 +67,7 @@ TEST_F(WindowKeeperTest, ClosingEndsTheProgramHidesTheWindowOrKeepsIt) {
 TEST_F(WindowKeeperTest, AHiddenProgramComesBackWhenItGetsOutOfReach) {
     closesToTray(true);
     keeper_.check();
-    window_.close();
+    close(window_);
     keeper_.check();
     EXPECT_EQ(returns_.count(), 0);
     isOutOfReach_ = true;
@@ -71,22 +81,22 @@ TEST_F(WindowKeeperTest, AHiddenProgramComesBackWhenItGetsOutOfReach) {
 TEST_F(WindowKeeperTest, AnotherWindowThatIsLeftAloneCountsAsTheLast) {
     QWindow settings;
     settings.show();
-    window_.close();
+    close(window_);
     EXPECT_EQ(quits_.count(), 0);
     closesToTray(true);
     isOutOfReach_ = true;
-    settings.close();
+    close(settings);
     EXPECT_EQ(returns_.count(), 1) << "otherwise nothing would be left";
     EXPECT_EQ(quits_.count(), 0);
 }
 
 TEST_F(WindowKeeperTest, APanelThatClosesOverAHiddenProgramDecidesNothing) {
     closesToTray(true);
-    window_.close();
+    close(window_);
     closesToTray(false);
     QWindow panel;
     panel.show();
-    panel.close();
+    close(panel);
     EXPECT_EQ(quits_.count(), 0);
 }
 
