@@ -2,27 +2,71 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace quillmere {
 
 namespace {
 
-// The mean over 2 · reach + 1 pixels along a line of `count` pixels `stride` bytes apart.
-void boxPass(uchar* line, int count, qsizetype stride, int reach, std::vector<uchar>& scratch) {
-    const int window = 2 * reach + 1;
-    int sum = 0;
-    for (int i = 0; i < std::min(reach, count); ++i) {
-        sum += line[i * stride];
+struct Plane {
+    int width;
+    int height;
+    std::vector<uchar> pixels = std::vector<uchar>(static_cast<std::size_t>(width * height));
+
+    [[nodiscard]] uchar* line(int y) {
+        return pixels.data() + static_cast<std::ptrdiff_t>(y) * width;
     }
-    for (int i = 0; i < count; ++i) {
-        sum += i + reach < count ? line[(i + reach) * stride] : 0;
-        scratch[static_cast<std::size_t>(i)] = static_cast<uchar>((sum + window / 2) / window);
-        sum -= i - reach >= 0 ? line[(i - reach) * stride] : 0;
+};
+
+Plane transposed(Plane& plane) {
+    Plane result{plane.height, plane.width};
+    for (int y = 0; y < plane.height; ++y) {
+        const uchar* from = plane.line(y);
+        for (int x = 0; x < plane.width; ++x) {
+            result.line(x)[y] = from[x];
+        }
     }
-    for (int i = 0; i < count; ++i) {
-        line[i * stride] = scratch[static_cast<std::size_t>(i)];
+    return result;
+}
+
+// Every pixel becomes the mean of 2 · reach + 1 in its column. Line by line and without dividing,
+// so that several columns are done at once.
+void averageColumns(Plane& plane, int reach) {
+    const auto window = static_cast<unsigned>(2 * reach + 1);
+    const unsigned share = 65536 / window + 1;
+    const auto width = static_cast<std::size_t>(plane.width);
+    Plane result{plane.width, plane.height};
+    std::vector<unsigned> sums(width, window / 2);
+    for (int y = -reach; y < plane.height; ++y) {
+        if (y + reach < plane.height) {
+            const uchar* entering = plane.line(y + reach);
+            for (std::size_t x = 0; x < width; ++x) {
+                sums[x] += entering[x];
+            }
+        }
+        if (y >= 0) {
+            uchar* mean = result.line(y);
+            for (std::size_t x = 0; x < width; ++x) {
+                mean[x] = static_cast<uchar>(sums[x] * share >> 16U);
+            }
+        }
+        if (y >= reach) {
+            const uchar* leaving = plane.line(y - reach);
+            for (std::size_t x = 0; x < width; ++x) {
+                sums[x] -= leaving[x];
+            }
+        }
     }
+    plane = std::move(result);
+}
+
+Plane blurredColumns(Plane plane, int reach) {
+    for (int pass = 0; pass < 3; ++pass) {
+        averageColumns(plane, reach);
+    }
+    return plane;
 }
 
 } // namespace
@@ -34,14 +78,15 @@ void blur(QImage& alpha, double deviation) {
     if (reach < 1) {
         return;
     }
-    std::vector<uchar> scratch(static_cast<std::size_t>(std::max(alpha.width(), alpha.height())));
-    for (int pass = 0; pass < 3; ++pass) {
-        for (int y = 0; y < alpha.height(); ++y) {
-            boxPass(alpha.scanLine(y), alpha.width(), 1, reach, scratch);
-        }
-        for (int x = 0; x < alpha.width(); ++x) {
-            boxPass(alpha.bits() + x, alpha.height(), alpha.bytesPerLine(), reach, scratch);
-        }
+    Plane plane{alpha.width(), alpha.height()};
+    for (int y = 0; y < plane.height; ++y) {
+        std::copy_n(alpha.constScanLine(y), plane.width, plane.line(y));
+    }
+    plane = blurredColumns(std::move(plane), reach);
+    plane = blurredColumns(transposed(plane), reach);
+    plane = transposed(plane);
+    for (int y = 0; y < plane.height; ++y) {
+        std::copy_n(plane.line(y), plane.width, alpha.scanLine(y));
     }
 }
 

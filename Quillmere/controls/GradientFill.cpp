@@ -1,35 +1,41 @@
 #include "Quillmere/controls/GradientFill.h"
 
-#include "Quillmere/controls/Dither.h"
+#include "Quillmere/controls/GradientImage.h"
 #include "Quillmere/controls/RoundedPath.h"
 
 #include <QtGui/QPainter>
 
 namespace quillmere {
 
-GradientFill::GradientFill(QQuickItem* parent) : QQuickPaintedItem(parent) {
-    connect(this, &GradientFill::lookChanged, this, [this] { update(); });
+namespace {
+
+void cutCorners(QImage& image, const QRectF& body, const Corner& corner, qreal scale) {
+    QPainterPath outside; // fills what only one of its parts covers
+    outside.addRect(body);
+    outside.addPath(roundedPath(body, corner));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.scale(scale, scale);
+    painter.fillPath(outside, Qt::black);
 }
 
-void GradientFill::paint(QPainter* painter) {
-    const qreal scale = painter->device()->devicePixelRatio();
-    QImage image((size() * scale).toSize(), QImage::Format_RGBA64_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter deep(&image);
-    deep.setRenderHint(QPainter::Antialiasing);
-    deep.scale(scale, scale);
-    deep.fillPath(roundedPath(boundingRect(), Corner::fitting(radius_, size())), gradient());
-    deep.end();
-    painter->drawImage(boundingRect(), dithered(image));
+} // namespace
+
+GradientFill::GradientFill(QQuickItem* parent) : PictureItem(parent) {
+    connect(this, &GradientFill::lookChanged, this, &GradientFill::redraw);
 }
 
-QLinearGradient GradientFill::gradient() const {
-    QLinearGradient result(0, 0, width(), height());
-    for (qsizetype i = 0; i < colors_.size(); ++i) {
-        const double last = static_cast<double>(std::max<qsizetype>(1, colors_.size() - 1));
-        result.setColorAt(static_cast<double>(i) / last, colors_[i]);
+PictureItem::Picture GradientFill::picture(qreal scale) const {
+    const QSize pixels = (size() * scale).toSize();
+    if (colors_.isEmpty() || pixels.isEmpty()) {
+        return {};
     }
-    return result;
+    QImage image = gradientImage(colors_, pixels);
+    if (radius_ > 0) {
+        cutCorners(image, boundingRect(), Corner::fitting(radius_, size()), scale);
+    }
+    return {image, boundingRect()};
 }
 
 } // namespace quillmere

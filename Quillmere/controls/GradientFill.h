@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QtGui/QBrush>
+#include "Quillmere/controls/PictureItem.h"
+
+#include <QtCore/QList>
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
-#include <QtQuick/QQuickPaintedItem>
 
 namespace quillmere {
 
 /// A linear gradient from the top left to the bottom right corner of the item, evenly through its
 /// colours, in a rounded rectangle. Colours are mixed with their opacity, so "clear" may be any
 /// colour of opacity 0.
-class GradientFill : public QQuickPaintedItem {
+class GradientFill : public PictureItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<QColor> colors MEMBER colors_ NOTIFY lookChanged)
@@ -18,14 +19,14 @@ class GradientFill : public QQuickPaintedItem {
 
 public:
     explicit GradientFill(QQuickItem* parent = nullptr);
-    void paint(QPainter* painter) override;
 
 signals:
     void lookChanged();
 
-private:
-    [[nodiscard]] QLinearGradient gradient() const;
+protected:
+    [[nodiscard]] Picture picture(qreal scale) const override;
 
+private:
     QList<QColor> colors_;
     qreal radius_ = 0;
 };

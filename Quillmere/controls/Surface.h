@@ -1,15 +1,15 @@
 #pragma once
 
-#include "Quillmere/controls/SurfaceImage.h"
+#include "Quillmere/controls/PictureItem.h"
 
+#include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
-#include <QtQuick/QQuickItem>
 
 namespace quillmere {
 
 /// A rounded surface with a hairline border inside its edge and a soft shadow outside of it, drawn
 /// alike by every renderer. The shadow reaches beyond the item and never shows through the fill.
-class Surface : public QQuickItem {
+class Surface : public PictureItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY lookChanged)
@@ -29,13 +29,9 @@ signals:
     void lookChanged();
 
 protected:
-    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
-    void geometryChange(const QRectF& now, const QRectF& before) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
+    [[nodiscard]] Picture picture(qreal scale) const override;
 
 private:
-    void redraw();
-
     QColor color_ = Qt::white;
     QColor borderColor_ = Qt::transparent;
     qreal borderWidth_ = 1;
@@ -43,7 +39,6 @@ private:
     QColor shadowColor_ = Qt::transparent;
     qreal shadowBlur_ = 0;
     qreal shadowOffset_ = 0;
-    bool stale_ = true;
 };
 
 } // namespace quillmere

@@ -2,17 +2,12 @@
 
 #include "Quillmere/controls/SymbolImage.h"
 
-#include <QtQuick/QQuickWindow>
-#include <QtQuick/QSGImageNode>
-
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace quillmere {
 
-Symbol::Symbol(QQuickItem* parent) : QQuickItem(parent) {
-    setFlag(ItemHasContents);
+Symbol::Symbol(QQuickItem* parent) : PictureItem(parent) {
     setImplicitSize(size_, size_);
 }
 
@@ -40,38 +35,14 @@ void Symbol::setSize(qreal size) {
     }
 }
 
-QSGNode* Symbol::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-    std::unique_ptr<QSGImageNode> node(static_cast<QSGImageNode*>(old));
+PictureItem::Picture Symbol::picture(qreal scale) const {
+    if (name_.isEmpty()) {
+        return {};
+    }
     const qreal side = std::min(width(), height());
-    if (name_.isEmpty() || side <= 0) {
-        return nullptr;
-    }
-    const int pixels = static_cast<int>(std::ceil(side * window()->effectiveDevicePixelRatio()));
-    if (!node) {
-        node.reset(window()->createImageNode());
-        node->setOwnsTexture(true);
-        node->setFiltering(QSGTexture::Linear);
-        stale_ = true;
-    }
-    if (stale_ || node->texture()->textureSize().width() != pixels) {
-        node->setTexture(window()->createTextureFromImage(symbolImage(name_, pixels, color_),
-                                                          QQuickWindow::TextureHasAlphaChannel));
-        stale_ = false;
-    }
-    node->setRect((width() - side) / 2, (height() - side) / 2, side, side);
-    return node.release();
-}
-
-void Symbol::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
-        redraw();
-    }
-    QQuickItem::itemChange(change, data);
-}
-
-void Symbol::redraw() {
-    stale_ = true;
-    update();
+    const int pixels = static_cast<int>(std::ceil(side * scale));
+    return {symbolImage(name_, pixels, color_),
+            {(width() - side) / 2, (height() - side) / 2, side, side}};
 }
 
 } // namespace quillmere

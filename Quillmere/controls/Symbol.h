@@ -1,14 +1,15 @@
 #pragma once
 
+#include "Quillmere/controls/PictureItem.h"
+
 #include <QtGui/QColor>
 #include <QtQml/qqmlregistration.h>
-#include <QtQuick/QQuickItem>
 
 namespace quillmere {
 
 /// A symbol of the platform's symbol set, drawn in one colour, square and sharp at every scale.
 /// Silent for accessibility: what it stands next to has the name.
-class Symbol : public QQuickItem {
+class Symbol : public PictureItem {
     Q_OBJECT
     QML_ELEMENT
     /// The symbol's name, such as "calendar.badge.clock". An empty name draws nothing.
@@ -33,16 +34,12 @@ signals:
     void sizeChanged();
 
 protected:
-    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
+    [[nodiscard]] Picture picture(qreal scale) const override;
 
 private:
-    void redraw();
-
     QString name_;
     QColor color_ = Qt::black;
     qreal size_ = 16;
-    bool stale_ = true;
 };
 
 } // namespace quillmere
