@@ -11,7 +11,7 @@ namespace quillmere {
 /// A linear gradient from the top left to the bottom right corner of the item, evenly through its
 /// colours, in a rounded rectangle. Colours are mixed with their opacity, so "clear" may be any
 /// colour of opacity 0.
-class GradientFill : public PictureItem {
+class GradientFill : public quillmere::PictureItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<QColor> colors MEMBER colors_ NOTIFY lookChanged)

@@ -7,7 +7,8 @@
 namespace quillmere {
 
 /// An item that shows a picture it draws of itself, alike with every renderer. Drawn when the look,
-/// the size or the screen's scale has changed, and kept otherwise.
+/// the size or the screen's scale has changed, and kept otherwise. Subclasses name it with its
+/// namespace, without which Qt 6.4 does not tell QML's tools of it.
 class PictureItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS

@@ -9,7 +9,7 @@ namespace quillmere {
 
 /// A rounded surface with a hairline border inside its edge and a soft shadow outside of it, drawn
 /// alike by every renderer. The shadow reaches beyond the item and never shows through the fill.
-class Surface : public PictureItem {
+class Surface : public quillmere::PictureItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY lookChanged)

@@ -9,7 +9,7 @@ namespace quillmere {
 
 /// A symbol of the platform's symbol set, drawn in one colour, square and sharp at every scale.
 /// Silent for accessibility: what it stands next to has the name.
-class Symbol : public PictureItem {
+class Symbol : public quillmere::PictureItem {
     Q_OBJECT
     QML_ELEMENT
     /// The symbol's name, such as "calendar.badge.clock". An empty name draws nothing.
