@@ -54,11 +54,32 @@ public:
         settleFailedCommit(*database);
     }
 
-    /// The pending changes as one durable transaction, on top of what others committed.
-    [[nodiscard]] Revision write(const Schema& schema) {
+    [[nodiscard]] bool hasChanges() const {
+        return !notes.empty() || std::ranges::any_of(storages, [](const auto& storage) {
+            return storage->hasChanges();
+        });
+    }
+
+    void runUnobserved(const std::function<void()>& prepare) {
+        struct Restorer {
+            bool& flag;
+            const bool before;
+            ~Restorer() { flag = before; }
+        } const restorer{isPublishing, std::exchange(isPublishing, true)};
+        prepare();
+    }
+
+    /// The pending changes as one durable transaction, on top of what others committed. Answers
+    /// nothing when there was nothing to write.
+    [[nodiscard]] std::optional<Revision> write(const Schema& schema,
+                                                const std::function<void()>& prepare) {
         Transaction transaction(*database, Transaction::Kind::write);
         checkNotNewer(*database, schema);
         takeIn();
+        runUnobserved(prepare);
+        if (!hasChanges()) {
+            return std::nullopt;
+        }
         const Revision revision = nextRevision();
         for (const auto& storage : storages) {
             storage->write(revision);
@@ -66,6 +87,14 @@ public:
         writeNotes();
         transaction.commit();
         return revision;
+    }
+
+    void settle(Revision written) {
+        seen = written;
+        for (const auto& storage : storages) {
+            storage->settle(written);
+        }
+        notes.clear();
     }
 
     void tryToSettleFailedCommit() noexcept {
@@ -145,28 +174,31 @@ void Context::remove(RecordBase& record) {
 }
 
 bool Context::hasChanges() const {
-    return !impl_->notes.empty() || std::ranges::any_of(impl_->storages, [](const auto& storage) {
-        return storage->hasChanges();
-    });
+    return impl_->hasChanges();
 }
 
 void Context::save() {
-    if (!hasChanges()) {
-        return;
+    if (hasChanges()) {
+        save([] {});
     }
+}
+
+void Context::save(const std::function<void()>& prepare) {
     impl_->checkWritable();
+    std::optional<Revision> written;
     try {
-        impl_->seen = impl_->write(impl_->store->schema());
-    } catch (const StoreError&) {
+        written = impl_->write(impl_->store->schema(), prepare);
+    } catch (...) {
         publish(); // what others committed was taken in all the same
         throw;
     }
-    for (const auto& storage : impl_->storages) {
-        storage->settle(impl_->seen);
+    if (written) {
+        impl_->settle(*written);
     }
-    impl_->notes.clear();
     publish();
-    impl_->store->notifyCommitted();
+    if (written) {
+        impl_->store->notifyCommitted();
+    }
 }
 
 void Context::rollback() noexcept {

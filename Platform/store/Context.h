@@ -55,6 +55,15 @@ public:
         return storage<R>().fetchChangedSince(revision);
     }
 
+    /// Visits, by value, all records written after `revision` and, with null, those deleted since,
+    /// unsaved changes included; a record may be visited again with what is true of it now. Ends
+    /// when the visitor answers false; answers whether it never did. Otherwise as `scan`.
+    template <class R>
+    bool scanChangedSince(Revision revision,
+                          const std::function<bool(RowKey, const typename R::Values*)>& visit) {
+        return storage<R>().scanNewerThan(revision, visit);
+    }
+
     /// The record with this key, or nothing when it is gone. The provisional key of a record keeps
     /// finding it after it was saved.
     template <class R>
@@ -100,6 +109,13 @@ public:
     /// pending changes are still pending, on disk everything is as before. Without pending changes
     /// it does nothing. Takes in what others have committed since, as `refresh` does.
     void save();
+
+    /// Saves what `prepare` changes besides what is pending, all in one transaction, or nothing.
+    /// `prepare` runs inside it: it sees what all others have committed, and nobody commits before
+    /// it does. So it can decide by what is there, which includes not to change anything. It must
+    /// neither save nor refresh, and observers wait until it is done. What it throws is passed on;
+    /// its changes are then pending. Throws as `save` does.
+    void save(const std::function<void()>& prepare);
 
     /// Discards every pending change: fields get their stored values back, inserted records are
     /// forgotten, deleted ones are back. Touches no file.

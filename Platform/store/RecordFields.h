@@ -32,6 +32,9 @@ Field(std::string_view, T Values::*) -> Field<Values, T>;
 ///     static constexpr std::string_view table = "reminder";
 ///     static constexpr auto fields = std::tuple{Field{"id", &ReminderValues::id}, …};
 ///
+/// A type whose records differ in one field names its column: `uniqueColumn = "title"`. Its values
+/// are compared byte by byte.
+///
 /// The column named `id` (a `Uuid`) is required: deletions leave it behind in their tombstone. The
 /// names `row_key` and `revision`, and tables beginning with `store_` or `sqlite_`, are taken.
 template <class Values>

@@ -54,6 +54,11 @@ void createTable(Database& database, const TableDescription& table) {
     }
     database.execute(sql + ") STRICT");
     database.execute("CREATE INDEX IF NOT EXISTS " + name + "_revision ON " + name + " (revision)");
+    if (!table.uniqueColumn.empty()) {
+        const std::string unique(table.uniqueColumn);
+        database.execute("CREATE UNIQUE INDEX IF NOT EXISTS " + name + "_" + unique + " ON " +
+                         name + " (" + unique + ")");
+    }
 }
 
 void createOwnTables(Database& database, const Schema& schema) {

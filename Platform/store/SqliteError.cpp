@@ -25,6 +25,9 @@ std::optional<StoreFault> faultOfSystemError(int error) {
 }
 
 StoreFault faultOf(int result, int error) {
+    if (result == SQLITE_CONSTRAINT_UNIQUE) {
+        return StoreFault::notUnique;
+    }
     switch (result & 0xff) {
     case SQLITE_FULL:
         return StoreFault::diskFull;

@@ -14,6 +14,7 @@ enum class StoreFault {
     damaged,     ///< the file is not a whole, valid database
     foreign,     ///< a database, but not one of ours
     newerSchema, ///< written by a newer version of the program
+    notUnique,   ///< a value would be there twice in a field that has each value once
     io,          ///< any other input or output failure
     misuse,      ///< a request the store cannot carry out (programmer fault that input can cause)
 };

@@ -25,6 +25,8 @@ struct Column {
 struct TableDescription {
     std::string_view name;
     std::vector<Column> columns;
+    /// The column with an index of unique values; empty where there is none.
+    std::string_view uniqueColumn = {};
 };
 
 template <class T>
@@ -53,6 +55,9 @@ template <class Values>
             (table.columns.push_back({field.column, columnType<T>()}), ...);
         },
         RecordFields<Values>::fields);
+    if constexpr (requires { RecordFields<Values>::uniqueColumn; }) {
+        table.uniqueColumn = RecordFields<Values>::uniqueColumn;
+    }
     return table;
 }
 

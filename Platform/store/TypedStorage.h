@@ -116,24 +116,36 @@ public:
     void attach(RowSink<Values>& sink) { sinks_.push_back(&sink); }
     void detach(RowSink<Values>& sink) { std::erase(sinks_, &sink); }
 
+    /// Visits all rows written or deleted after a revision and every pending change, until `visit`
+    /// answers false; answers whether it never did.
+    template <class VisitNewer>
+    bool scanNewerThan(Revision revision, const VisitNewer& visit) {
+        Statement rows = selectNewerThan(revision);
+        Values values;
+        bool goesOn = true;
+        while (goesOn && rows.step()) {
+            readValues(rows, values);
+            goesOn = visit(rowKey(rows), &values);
+        }
+        Statement deletions = selectDeletions(revision);
+        while (goesOn && deletions.step()) {
+            goesOn = visit(RowKey{deletions.integer(0)}, nullptr);
+        }
+        for (const RecordBase* record : removed()) {
+            goesOn = goesOn && visit(record->key(), nullptr);
+        }
+        forEachPending(
+            [&](RecordBase& record) { goesOn = goesOn && visit(record.key(), &valuesOf(record)); });
+        return goesOn;
+    }
+
     /// Stages for one live query all rows written or deleted after a revision and every pending
     /// change.
     void stageNewerThan(Revision revision, RowSink<Values>& sink) {
-        Statement rows = selectNewerThan(revision);
-        Values values;
-        while (rows.step()) {
-            readValues(rows, values);
-            sink.stage(rowKey(rows), rowKey(rows), &values);
-        }
-        Statement deletions = selectDeletions(revision);
-        while (deletions.step()) {
-            sink.stage(rowKey(deletions), rowKey(deletions), nullptr);
-        }
-        for (const RecordBase* record : removed()) {
-            sink.stage(record->key(), record->key(), nullptr);
-        }
-        forEachPending(
-            [&](RecordBase& record) { sink.stage(record.key(), record.key(), &valuesOf(record)); });
+        scanNewerThan(revision, [&](RowKey key, const Values* values) {
+            sink.stage(key, key, values);
+            return true;
+        });
     }
 
 private:

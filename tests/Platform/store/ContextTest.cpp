@@ -2,6 +2,8 @@
 
 #include <limits>
 #include <ostream>
+#include <stdexcept>
+#include <thread>
 
 namespace platform::store::test {
 namespace {
@@ -266,6 +268,50 @@ TEST_P(ContextTest, TellsListenersOfCommitsWhileTheyAreRegistered) {
     addReminder(*context_, "b");
     context_->save();
     EXPECT_EQ(commits, 1);
+}
+
+TEST_P(ContextTest, ASaveThatWouldDoubleAUniqueValueFailsWhole) {
+    const auto other = makeContext();
+    other->insert(std::make_unique<Tag>(TagValues{.name = "taken"}));
+    other->save();
+    addReminder(*context_, "beside it");
+    context_->insert(std::make_unique<Tag>(TagValues{.name = "taken"}));
+    EXPECT_EQ(faultOf([&] { context_->save(); }), StoreFault::notUnique);
+    EXPECT_TRUE(context_->hasChanges());
+    EXPECT_TRUE(other->fetch<Reminder>().empty());
+    context_->rollback();
+    context_->insert(std::make_unique<Tag>(TagValues{.name = "Taken"}));
+    context_->save();
+    EXPECT_EQ(other->fetch<Tag>().size(), 2U);
+}
+
+TEST_P(ContextTest, APreparedSaveSeesAllAndNobodyComesBetween) {
+    constexpr int rounds = 25;
+    const auto countUp = [this] {
+        const auto context = makeContext();
+        for (int round = 0; round < rounds; ++round) {
+            context->save([&] {
+                Reminder* shared = findTitle(*context, "shared");
+                shared = shared == nullptr ? &addReminder(*context, "shared") : shared;
+                shared->setMinutes(shared->values().minutes + 1);
+            });
+        }
+    };
+    std::thread thread(countUp);
+    countUp();
+    thread.join();
+    ASSERT_EQ(titles(*context_), "shared");
+    EXPECT_EQ(findTitle(*context_, "shared")->values().minutes, 2 * rounds);
+
+    context_->save([] {});
+    EXPECT_EQ(context_->revision(), Revision{2 * rounds}) << "nothing was changed";
+    const auto fail = [this] {
+        addReminder(*context_, "refused");
+        throw std::invalid_argument("no");
+    };
+    EXPECT_THROW(context_->save(fail), std::invalid_argument);
+    countUp(); // the transaction has ended
+    EXPECT_EQ(titles(*makeContext()), "shared");
 }
 
 INSTANTIATE_TEST_SUITE_P(Stores, ContextTest, testing::Bool(),

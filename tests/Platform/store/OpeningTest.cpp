@@ -1,3 +1,4 @@
+#include "Platform/store/Snapshot.h"
 #include "tests/Platform/store/StoreTest.h"
 
 #include <sqlite3.h>
@@ -308,6 +309,7 @@ protected:
 };
 
 TEST_F(MigrationTest, MovesAnOlderFileOnInPlace) {
+    Snapshot reading(context_->store());
     const auto store = openNewer({"ALTER TABLE reminder ADD COLUMN due ANY NOT NULL DEFAULT 7.0",
                                   "ALTER TABLE reminder ADD COLUMN ended_at ANY"});
     const auto context = store->makeContext(environment());
@@ -323,6 +325,8 @@ TEST_F(MigrationTest, MovesAnOlderFileOnInPlace) {
 
     EXPECT_EQ(faultOf([&] { (void)Store::open(oldSchema_, {.file = file()}); }),
               StoreFault::newerSchema);
+    EXPECT_EQ(reading.database().integer("SELECT count(*) FROM reminder"), 1);
+    EXPECT_EQ(context_->fetch<OldReminder>().size(), 1U) << "a program that has it open may read";
     context_->insert(std::make_unique<OldReminder>());
     EXPECT_EQ(faultOf([&] { context_->save(); }), StoreFault::newerSchema)
         << "a program that still has it open must not write into it";
