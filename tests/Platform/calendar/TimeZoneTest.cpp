@@ -80,7 +80,8 @@ TEST_F(SystemTimeZone, keepsTheSummerTimeOfARuleAsTheCLibraryDoes) {
         choose(rule);
         tzset();
         const Calendar calendar(TimeZone::system(), {});
-        for (std::time_t time = 946684800; time < 4102444800; time += 144'000) { // 2000 to 2100
+        // From 2007 to 2100: since then the United States have the rules that go without saying.
+        for (std::time_t time = 1167609600; time < 4102444800; time += 144'000) {
             std::tm local{};
             localtime_r(&time, &local);
             ASSERT_EQ(calendar.civilSeconds({static_cast<double>(time)}) - time, local.tm_gmtoff)
