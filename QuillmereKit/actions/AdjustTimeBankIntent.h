@@ -88,6 +88,8 @@ public:
     [[nodiscard]] KeyedResult performOnce(std::string_view key, const Services& services) const;
 
 private:
+    [[nodiscard]] Result result(Outcome outcome) const;
+
     std::int64_t minutes_;
 };
 

@@ -1,6 +1,7 @@
 #include "QuillmereKit/maintenance/DataStoreMaintenance.h"
 
 #include "QuillmereKit/migration/ManualLedgerMigration.h"
+#include "QuillmereKit/records/ActionReceipt.h"
 #include "QuillmereKit/records/BalanceAdjustment.h"
 #include "QuillmereKit/records/WorkEntry.h"
 #include "QuillmereKit/records/WorkSchedule.h"
@@ -21,6 +22,7 @@ void eraseAll(platform::store::Context& context) {
     context.removeAll<BalanceAdjustment>();
     context.removeAll<WorkSchedule>();
     context.removeAll<TimeBankSettings>();
+    context.removeAll<ActionReceipt>();
     context.save();
 }
 

@@ -83,7 +83,7 @@ private:
 } // namespace
 
 void reconcileActivity(Context& context, Instant now, bool saveChanges) {
-    const RepairMemory memory(context, "activity");
+    const RepairMemory memory(context, "repaired.activity");
     ActivityPass pass(context, now, memory.recall(now));
     pass.repair<WorkEntry>();
     pass.repair<BalanceAdjustment>();

@@ -18,7 +18,7 @@ struct RepairMark {
     /// The latest modification time among those records. A clock that falls so far behind that it
     /// lies beyond the allowed skew makes faults of times that were none.
     platform::Instant newestModifiedAt{-std::numeric_limits<double>::infinity()};
-    /// What else the repair found or depended on, in its own form: one word or nothing.
+    /// What else the repair found or depended on, in its own form.
     std::string finding;
 
     friend bool operator==(const RepairMark&, const RepairMark&) = default;
@@ -34,8 +34,8 @@ public:
     /// Number of records worth a save to not look at them again.
     static constexpr std::size_t worthRemembering = 512;
 
-    /// The context must outlive the object.
-    RepairMemory(platform::store::Context& context, std::string_view repair);
+    /// The context must outlive the object. The name is the note's.
+    RepairMemory(platform::store::Context& context, std::string_view name);
 
     /// The last mark; nothing when there is none, when it was made by other rules than the present
     /// ones, or when `now` makes its times doubtful.

@@ -20,7 +20,7 @@ struct ScheduleRepair::Schedule {
 
 ScheduleRepair::ScheduleRepair(platform::store::Context& context,
                                const platform::Calendar& calendar, Instant now)
-    : context_(context), calendar_(calendar), now_(now), memory_(context, "schedules") {
+    : context_(context), calendar_(calendar), now_(now), memory_(context, "repaired.schedules") {
     mark_.revision = context.revision();
     mark_.finding = calendar.timeZone().name();
 }

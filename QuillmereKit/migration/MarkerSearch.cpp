@@ -1,12 +1,9 @@
 #include "QuillmereKit/migration/MarkerSearch.h"
 
+#include "QuillmereKit/maintenance/NoteWords.h"
 #include "QuillmereKit/migration/ManualLedgerMigration.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace quillmere {
 
@@ -14,23 +11,10 @@ using platform::store::RowKey;
 
 namespace {
 
-std::string keyList(const std::vector<BalanceAdjustment*>& markers) {
-    std::string keys;
-    for (const BalanceAdjustment* marker : markers) {
-        keys += keys.empty() ? "" : ",";
-        keys += std::to_string(static_cast<std::int64_t>(marker->key()));
-    }
-    return keys;
-}
-
-std::vector<RowKey> keysOf(std::string_view list) {
+std::vector<RowKey> keysOf(const std::vector<BalanceAdjustment*>& markers) {
     std::vector<RowKey> keys;
-    while (!list.empty()) {
-        const std::string_view word = list.substr(0, list.find(','));
-        list.remove_prefix(std::min(word.size() + 1, list.size()));
-        std::int64_t key = 0;
-        std::from_chars(word.data(), word.data() + word.size(), key);
-        keys.push_back(RowKey{key});
+    for (const BalanceAdjustment* marker : markers) {
+        keys.push_back(marker->key());
     }
     return keys;
 }
@@ -38,14 +22,14 @@ std::vector<RowKey> keysOf(std::string_view list) {
 } // namespace
 
 MarkerSearch::MarkerSearch(platform::store::Context& context)
-    : context_(context), memory_(context, "ledgerMarker") {
+    : context_(context), memory_(context, "repaired.ledgerMarker") {
     mark_.revision = context.revision();
 }
 
 std::vector<BalanceAdjustment*> MarkerSearch::find() {
     const auto last = memory_.recall(context_.clock().now());
     auto markers = last ? amongKnownAndChanged(*last) : amongAll();
-    mark_.finding = keyList(markers);
+    mark_.finding = NoteWords::list(keysOf(markers));
     return markers;
 }
 
@@ -57,7 +41,7 @@ std::vector<BalanceAdjustment*> MarkerSearch::amongKnownAndChanged(const RepairM
             markers.push_back(record);
         }
     };
-    for (const RowKey key : keysOf(last.finding)) {
+    for (const RowKey key : NoteWords::keys(last.finding)) {
         addMarker(context_.find<BalanceAdjustment>(key));
     }
     for (BalanceAdjustment* record : context_.fetchChangedSince<BalanceAdjustment>(last.revision)) {

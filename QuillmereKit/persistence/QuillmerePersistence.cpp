@@ -1,12 +1,14 @@
 #include "QuillmereKit/persistence/QuillmerePersistence.h"
 
 #include "Platform/store/StoreError.h"
+#include "QuillmereKit/records/ActionReceipt.h"
 #include "QuillmereKit/records/BalanceAdjustment.h"
 #include "QuillmereKit/records/TimeBankSettings.h"
 #include "QuillmereKit/records/WorkEntry.h"
 #include "QuillmereKit/records/WorkSchedule.h"
 
 #include <string>
+#include <vector>
 
 namespace quillmere::QuillmerePersistence {
 
@@ -14,8 +16,18 @@ namespace {
 
 /// Marks our files in SQLite's header: the bytes "QMTB". Frozen.
 constexpr std::int32_t applicationId = 0x514D5442;
-/// 1.0.0, counted as the store counts. Frozen with every release.
-constexpr int schemaVersion = 1;
+/// Counted as the store counts: 1 is 1.0.0, 2 is 1.1.0. Frozen with every release.
+constexpr int schemaVersion = 2;
+
+/// From 1.0.0 to 1.1.0: the receipts of keyed actions.
+std::vector<std::string> addReceipts() {
+    return {"CREATE TABLE action_receipt (row_key INTEGER PRIMARY KEY AUTOINCREMENT,"
+            " revision INTEGER NOT NULL, id BLOB NOT NULL, request_key TEXT NOT NULL,"
+            " minutes INTEGER NOT NULL, balance_minutes INTEGER NOT NULL, booked_at ANY NOT NULL)"
+            " STRICT",
+            "CREATE INDEX action_receipt_revision ON action_receipt (revision)",
+            "CREATE UNIQUE INDEX action_receipt_request_key ON action_receipt (request_key)"};
+}
 
 } // namespace
 
@@ -25,7 +37,9 @@ const platform::store::Schema& schema() {
             .add<WorkEntry>()
             .add<BalanceAdjustment>()
             .add<WorkSchedule>()
-            .add<TimeBankSettings>();
+            .add<TimeBankSettings>()
+            .add<ActionReceipt>()
+            .addMigration(1, addReceipts());
     return shared;
 }
 

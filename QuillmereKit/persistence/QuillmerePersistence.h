@@ -15,7 +15,8 @@ namespace QuillmerePersistence {
 /// Name of the store; its file is this with the suffix ".sqlite".
 inline constexpr std::string_view storeName = "Quillmere";
 
-/// The four record types, schema version 1.0.0. Made once, safe from any thread.
+/// The four record types of the time bank and the receipts of keyed actions, schema version 1.1.0.
+/// Made once, safe from any thread.
 [[nodiscard]] const platform::store::Schema& schema();
 
 /// Opens the store: in memory, or as a file in the shared container or the default folder. A store

@@ -26,7 +26,7 @@ platform::Instant submissionDate(platform::Instant selectedDate, platform::Insta
     return calendar.isSameDay(selectedDate, now) ? now : selectedDate;
 }
 
-BalanceAdjustment& record(std::int64_t minutes, platform::Instant date, std::string_view note,
+BalanceAdjustment& insert(std::int64_t minutes, platform::Instant date, std::string_view note,
                           std::string_view kindRawValue, platform::store::Context& context) {
     checkAmount(minutes);
     const platform::Instant createdAt = context.clock().now();
@@ -37,7 +37,12 @@ BalanceAdjustment& record(std::int64_t minutes, platform::Instant date, std::str
         NoteValidation::normalized(NoteValidation::normalized(note)), BalanceAdjustmentKind::manual,
         createdAt, modifiedAt);
     adjustment->setKindRawValue(AdjustmentCategoryValidation::normalizedRawValue(kindRawValue));
-    BalanceAdjustment& inserted = context.insert(std::move(adjustment));
+    return context.insert(std::move(adjustment));
+}
+
+BalanceAdjustment& record(std::int64_t minutes, platform::Instant date, std::string_view note,
+                          std::string_view kindRawValue, platform::store::Context& context) {
+    BalanceAdjustment& inserted = insert(minutes, date, note, kindRawValue, context);
     context.save();
     return inserted;
 }

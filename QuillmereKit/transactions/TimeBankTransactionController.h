@@ -22,6 +22,10 @@ inline constexpr std::int64_t maximumAbsoluteMinutes = 1440;
                                                platform::Instant now,
                                                const platform::Calendar& calendar);
 
+/// `record` without the save: the new record is pending in the context.
+BalanceAdjustment& insert(std::int64_t minutes, platform::Instant date, std::string_view note,
+                          std::string_view kindRawValue, platform::store::Context& context);
+
 /// Records a change and saves it. Positive minutes add time. The note is normalised and an unknown
 /// category becomes "manual"; amounts are refused, never cut. Throws `TimeBankTransactionError`
 /// with nothing created, or the save's `StoreError` with the new record still pending in the
