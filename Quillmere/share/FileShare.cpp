@@ -30,9 +30,17 @@ fs::path pathOf(const QUrl& url) {
     return QFile::encodeName(url.toLocalFile()).toStdString();
 }
 
-void putCopy(const fs::path& file, const fs::path& target) {
-    platform::saveForUser(target,
-                          platform::readFile(file, std::numeric_limits<std::size_t>::max() / 2));
+std::shared_ptr<QFile> opened(const fs::path& path) {
+    auto file = std::make_shared<QFile>(textOf(path));
+    if (!file->open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("open the export: " + file->errorString().toStdString());
+    }
+    return file;
+}
+
+void putCopy(const QFile& file, const fs::path& target) {
+    platform::saveForUser(target, platform::readFile(file.handle(), target,
+                                                     std::numeric_limits<std::size_t>::max() / 2));
 }
 
 } // namespace
@@ -76,29 +84,33 @@ void FileShare::write(bool isForDrag) {
     }
     isForDrag_ = isForDrag;
     isDragOver_ = false;
-    auto exported = std::make_shared<ExportedFile>();
+    auto written = std::make_shared<Written>();
     std::function<void()> work;
     try {
-        work = [exported, write = prepare_()] { *exported = write(); };
+        work = [written, write = prepare_()] {
+            written->exported = write();
+            written->file = opened(written->exported.path);
+        };
     } catch (const std::exception& error) {
         ShareIssue::reportUnwritten(appState_, error);
         return;
     }
     const auto done = [share = QPointer(this), &appState = appState_,
-                       exported](const std::exception* problem) {
+                       written](const std::exception* problem) {
         if (problem) {
             ShareIssue::reportUnwritten(appState, *problem);
         }
         if (share) {
-            problem ? share->go(Idle) : share->onWritten(*exported);
+            problem ? share->go(Idle) : share->onWritten(*written);
         }
     };
     appState_.work()->start(BackgroundWork::Kind::reading, title_, std::move(work), done);
     go(Writing);
 }
 
-void FileShare::onWritten(const ExportedFile& exported) {
-    exported_ = exported;
+void FileShare::onWritten(const Written& written) {
+    exported_ = written.exported;
+    file_ = written.file;
     if (isForDrag_) {
         go(isDragOver_ ? Idle : Dragging);
     } else {
@@ -156,7 +168,7 @@ void FileShare::copy() {
             problem ? share->go(Idle) : share->onCopied();
         }
     };
-    const auto work = [file = exported_.path, target = pathOf(target_)] { putCopy(file, target); };
+    const auto work = [file = file_, target = pathOf(target_)] { putCopy(*file, target); };
     appState_.work()->start(BackgroundWork::Kind::reading, title_, work, done);
     go(Copying);
 }
@@ -169,6 +181,9 @@ void FileShare::onCopied() {
 
 void FileShare::go(Step step) {
     step_ = step;
+    if (step == Idle) {
+        file_.reset();
+    }
     emit stepChanged();
 }
 

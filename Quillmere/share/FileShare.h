@@ -8,6 +8,9 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
+#include <memory>
+
+class QFile;
 
 namespace quillmere {
 
@@ -18,8 +21,9 @@ class AppState;
 /// Main thread.
 ///
 /// Each export is written anew on a worker. A save goes on to a remark where there is one, then to
-/// the choice of a place, then to the copy; a drag takes the written file itself. Every step can
-/// fail; an issue then says so, and what was in the chosen place is as it was.
+/// the choice of a place, then to the copy, which needs the written file no longer to have its
+/// name: another export may clear it away meanwhile. A drag takes the written file itself. Every
+/// step can fail; an issue then says so, and what was in the chosen place is as it was.
 class FileShare : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -85,8 +89,13 @@ signals:
     void saved(const QUrl& target);
 
 private:
+    struct Written {
+        ExportedFile exported;
+        std::shared_ptr<QFile> file;
+    };
+
     void write(bool isForDrag);
-    void onWritten(const ExportedFile& exported);
+    void onWritten(const Written& written);
     void copy();
     void onCopied();
     void go(Step step);
@@ -98,6 +107,7 @@ private:
     bool isForDrag_ = false;
     bool isDragOver_ = false;
     ExportedFile exported_;
+    std::shared_ptr<QFile> file_; ///< the written one, open
     QUrl target_;
     QUrl lastFolder_;
 };

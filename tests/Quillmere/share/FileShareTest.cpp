@@ -107,6 +107,18 @@ TEST_F(FileShareTest, WritesWhatThereIsAtThatMomentAndNothingWhenTheDialogIsLeft
     EXPECT_EQ(textIn(place() / "second"), "newer");
 }
 
+TEST_F(FileShareTest, SavesWhatWasExportedThoughAnotherExportHasClearedItAway) {
+    share_.save();
+    reach(FileShare::Choosing);
+    text_ = "newer";
+    FileShare other([this] { return prepare(); }, "Exporting…", appState_);
+    other.save();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return other.step() == FileShare::Choosing; }, 30'000));
+    share_.choose(urlOf(place() / "first"));
+    reach(FileShare::Idle);
+    EXPECT_EQ(textIn(place() / "first"), "new");
+}
+
 TEST_F(FileShareTest, SaysThatAPlaceCannotBeWrittenAndLeavesWhatWasThere) {
     if (!mountSmallDisk(place())) {
         GTEST_SKIP() << "mounting a small disk is not permitted here";
