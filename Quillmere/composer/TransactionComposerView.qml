@@ -15,6 +15,12 @@ FocusScope {
 
     readonly property int contentPadding: compact ? 18 : 24
 
+    // A key held down since before the form opened saves nothing.
+    function save(event: KeyEvent): void {
+        if (!event.isAutoRepeat)
+            root.model.save();
+    }
+
     objectName: "transaction.composer"
     implicitWidth: compact ? 360 : 520
     implicitHeight: Math.max(compact ? 330 : 500,
@@ -22,8 +28,8 @@ FocusScope {
     Accessible.role: Accessible.Dialog
     Accessible.name: root.model.title
     Component.onCompleted: root.model.ensureValidCategory()
-    Keys.onReturnPressed: root.model.save()
-    Keys.onEnterPressed: root.model.save()
+    Keys.onReturnPressed: event => root.save(event)
+    Keys.onEnterPressed: event => root.save(event)
     Keys.onEscapePressed: root.model.cancel()
 
     SheetToolbar {

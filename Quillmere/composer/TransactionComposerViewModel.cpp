@@ -2,11 +2,9 @@
 
 #include "Quillmere/composer/AmountText.h"
 #include "Quillmere/composer/ComposerCategories.h"
-#include "Quillmere/composer/LimitedEdit.h"
 #include "Quillmere/shell/AppState.h"
 #include "Quillmere/shell/StoreSession.h"
 #include "Quillmere/shell/TimeFollower.h"
-#include "QuillmereKit/records/NoteValidation.h"
 #include "QuillmereKit/transactions/TimeBankTransactionController.h"
 
 namespace quillmere {
@@ -112,16 +110,6 @@ void TransactionComposerViewModel::ensureValidCategory() {
     }
 }
 
-int TransactionComposerViewModel::editNote(const QString& text, int cursor) {
-    const EditedText edited =
-        limitedEdit(note_, {text, cursor}, NoteValidation::maximumCharacterCount);
-    if (note_ != edited.text) {
-        note_ = edited.text;
-        emit noteChanged();
-    }
-    return static_cast<int>(edited.cursor);
-}
-
 void TransactionComposerViewModel::save() {
     const auto minutes = AmountText::minutes(hoursText_.toStdString());
     if (isFinished_ || !minutes) {
@@ -160,7 +148,7 @@ BalanceAdjustment& TransactionComposerViewModel::record(int minutes) {
     const platform::Instant date =
         TimeBankTransactionController::submissionDate(date_.selected(), time.now(), time.current());
     return TimeBankTransactionController::record(
-        takesTime() ? -minutes : minutes, date, note_.toStdString(),
+        takesTime() ? -minutes : minutes, date, note_.text().toStdString(),
         takesTime() ? categoryRawValue_ : "manual", session_.context());
 }
 

@@ -2,6 +2,7 @@
 
 #include "Quillmere/composer/AmountStepperDirection.h"
 #include "Quillmere/composer/CategoryListModel.h"
+#include "Quillmere/composer/NoteDraft.h"
 #include "Quillmere/composer/TransactionComposerMode.h"
 #include "Quillmere/controls/DatePickerModel.h"
 #include "QuillmereKit/records/BalanceAdjustment.h"
@@ -37,8 +38,7 @@ class TransactionComposerViewModel : public QObject {
     /// Position of the chosen category in `categories`; −1 when it is not among them.
     Q_PROPERTY(int categoryIndex READ categoryIndex WRITE setCategoryIndex NOTIFY categoryChanged)
     Q_PROPERTY(quillmere::DatePickerModel* date READ date CONSTANT)
-    /// At most 280 characters as a reader counts them.
-    Q_PROPERTY(QString note READ note NOTIFY noteChanged)
+    Q_PROPERTY(quillmere::NoteDraft* note READ note CONSTANT)
 
 public:
     /// Called once after a successful save, before `finished`. The record lives in the session's
@@ -64,7 +64,7 @@ public:
     [[nodiscard]] int categoryIndex() const;
     void setCategoryIndex(int index);
     [[nodiscard]] DatePickerModel* date() { return &date_; }
-    [[nodiscard]] const QString& note() const { return note_; }
+    [[nodiscard]] NoteDraft* note() { return &note_; }
 
     Q_INVOKABLE void stepDown();
     Q_INVOKABLE void stepUp();
@@ -72,10 +72,6 @@ public:
     /// Runs when the form appears: in take mode a category that is not offered becomes the first
     /// one that is.
     Q_INVOKABLE void ensureValidCategory();
-    /// Takes the field's text after an edit, which may be longer than a note: what the edit put in
-    /// is cut, and what was there stays. Answers where the cursor belongs afterwards, in UTF-16
-    /// units.
-    Q_INVOKABLE int editNote(const QString& text, int cursor);
     /// Records the change and finishes; on failure reports the issue and leaves form and store as
     /// they were. Nothing happens while the amount is not valid, nor once the form has finished.
     Q_INVOKABLE void save();
@@ -84,7 +80,6 @@ public:
 signals:
     void hoursTextChanged();
     void categoryChanged();
-    void noteChanged();
     /// The form is to be closed: it was saved or cancelled.
     void finished();
 
@@ -99,10 +94,10 @@ private:
     TransactionComposerMode mode_;
     OnSaved onSaved_;
     QString hoursText_ = QStringLiteral("1");
-    QString note_;
     std::string categoryRawValue_ = "other";
     CategoryListModel categories_;
     DatePickerModel date_;
+    NoteDraft note_;
     bool isFinished_ = false;
 };
 

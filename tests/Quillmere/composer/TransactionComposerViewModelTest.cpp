@@ -48,7 +48,7 @@ TEST_F(TransactionComposerViewModelTest, recordsTakenTimeOfTheMomentItIsSaved) {
     auto& model = open(TransactionComposerMode::take);
     model.choosePreset(2);
     choose("appointment");
-    model.editNote("  Dentist ", 0);
+    model.note()->edit("  Dentist ", 0);
     clock_.advance(90);
     model.save();
 
@@ -78,7 +78,7 @@ TEST_F(TransactionComposerViewModelTest, recordsAnEarlierDayAtTheTimeTheFormWasO
 TEST_F(TransactionComposerViewModelTest, keepsFormAndStoreWhenTheSaveFails) {
     auto& model = open(TransactionComposerMode::take);
     model.setHoursText("1.25");
-    model.editNote("School run", 10);
+    model.note()->edit("School run", 10);
     choose("longLunch");
     lockStore();
     model.save();
@@ -90,7 +90,7 @@ TEST_F(TransactionComposerViewModelTest, keepsFormAndStoreWhenTheSaveFails) {
     EXPECT_THAT(stored(), testing::IsEmpty());
     EXPECT_FALSE(session().context().hasChanges());
     EXPECT_EQ(model.hoursText(), "1.25");
-    EXPECT_EQ(model.note(), "School run");
+    EXPECT_EQ(model.note()->text(), "School run");
     EXPECT_EQ(model.categoryIndex(), 2);
 
     unlockStore();
@@ -138,15 +138,6 @@ TEST_F(TransactionComposerViewModelTest, offersTheCategoriesOfTheSettings) {
     model.save();
     ASSERT_THAT(saved_, testing::SizeIs(1));
     EXPECT_EQ(saved_[0]->category().title, "Gym");
-}
-
-TEST_F(TransactionComposerViewModelTest, holdsANoteOf280Characters) {
-    auto& model = open(TransactionComposerMode::add);
-    const QString full(280, QChar('n'));
-    EXPECT_EQ(model.editNote(full + "xyz", 283), 280);
-    EXPECT_EQ(model.note(), full);
-    EXPECT_EQ(model.editNote("!" + full, 1), 0) << "the end is not pushed out";
-    EXPECT_EQ(model.note(), full);
 }
 
 } // namespace quillmere

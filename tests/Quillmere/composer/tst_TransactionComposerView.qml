@@ -246,7 +246,7 @@ Item {
             note.remove(0, 1);
             keyClick("x");
             compare(note.text.length, 280);
-            compare(form.model.note, note.text);
+            compare(form.model.note.text, note.text);
         }
 
         function test_theNoteGrowsToFourLines() {
