@@ -6,19 +6,14 @@
 #include "Quillmere/shell/TimeFollower.h"
 #include "QuillmereKit/calculation/BalanceTrend.h"
 #include "QuillmereKit/calculation/LedgerActivity.h"
-#include "QuillmereKit/calculation/TimeBankCalculator.h"
 #include "QuillmereKit/navigation/AppRoute.h"
 #include "QuillmereKit/rules/DurationFormatting.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace quillmere {
 
-using platform::Instant;
-using platform::store::Comparison;
-using platform::store::Filter;
 using platform::store::LiveState;
 
 DashboardViewModel::DashboardViewModel(StoreSession& session, AppState& appState,
@@ -29,16 +24,15 @@ DashboardViewModel::DashboardViewModel(StoreSession& session, AppState& appState
       appState_(appState),
       preferences_(preferences),
       dates_(session.time().current()),
-      nextChange_(session.time().clock()),
+      balance_(session),
       undoOffer_(session, appState, std::move(undoCountdown)),
       range_(BalanceTrendRanges::fromDayCount(
           preferences.number(trendRangeKey).value_or(dayCount(BalanceTrendRange::month)))) {
-    connect(&session_, &StoreSession::adjustmentsChanged, this, &DashboardViewModel::updateAll);
-    connect(&session_, &StoreSession::settingsChanged, this,
-            &DashboardViewModel::onSettingsChanged);
+    connect(&session_, &StoreSession::adjustmentsChanged, this, &DashboardViewModel::updateRecent);
     connect(&session_.time(), &TimeFollower::changed, this, &DashboardViewModel::onTimeChanged);
-    connect(&nextChange_, &InstantTimer::fired, this, &DashboardViewModel::updateFigures);
-    updateAll();
+    connect(&balance_, &LedgerBalance::updated, this, &DashboardViewModel::updateFigures);
+    updateFigures();
+    updateRecent();
 }
 
 DashboardViewModel::~DashboardViewModel() = default;
@@ -104,40 +98,27 @@ void DashboardViewModel::closeComposer() {
 void DashboardViewModel::onSaved(BalanceAdjustment& transaction) {
     undoOffer_.offer(transaction);
     if (isLoading()) {
-        updateFigures();
-    }
-}
-
-void DashboardViewModel::updateAll() {
-    updateFigures();
-    updateRecent();
-}
-
-void DashboardViewModel::onSettingsChanged() {
-    if (startingBalanceMinutes() != startingBalance_) {
-        updateFigures();
+        balance_.update();
     }
 }
 
 void DashboardViewModel::onTimeChanged() {
     dates_ = platform::DateText(session_.time().current());
-    updateAll();
+    updateRecent();
 }
 
 void DashboardViewModel::updateFigures() {
-    startingBalance_ = startingBalanceMinutes();
     updateSummary();
     updateTrend();
-    scheduleNextChange();
 }
 
 void DashboardViewModel::updateSummary() {
-    const Instant now = session_.time().now();
-    const BalanceSummary summary =
-        isLoading() ? BalanceSummary::of(balanceFromStore(), std::nullopt)
-                    : BalanceSummary::of(
-                          TimeBankCalculator::ledgerBalanceSeconds(rows(), startingBalance_, now),
-                          LedgerActivity::secondsToday(rows(), now, session_.time().current()));
+    std::optional<double> today;
+    if (!isLoading()) {
+        today =
+            LedgerActivity::secondsToday(rows(), session_.time().now(), session_.time().current());
+    }
+    const BalanceSummary summary = BalanceSummary::of(balance_.seconds(), today);
     if (summary != summary_) {
         summary_ = summary;
         emit summaryChanged();
@@ -147,7 +128,7 @@ void DashboardViewModel::updateSummary() {
 void DashboardViewModel::updateTrend() {
     QList<double> trend;
     if (!isLoading()) {
-        const auto series = BalanceTrend::series(rows(), startingBalance_, range_,
+        const auto series = BalanceTrend::series(rows(), balance_.startingBalanceMinutes(), range_,
                                                  session_.time().now(), session_.time().current());
         trend = QList<double>(series.begin(), series.end());
     }
@@ -171,18 +152,6 @@ void DashboardViewModel::updateRecent() {
     }
 }
 
-// Rows are newest first, so those still to come stand at the front, the next one last of them.
-void DashboardViewModel::scheduleNextChange() {
-    const Instant now = session_.time().now();
-    const auto due = std::partition_point(rows().begin(), rows().end(),
-                                          [&](const LedgerRow& row) { return row.date > now; });
-    if (due == rows().begin()) {
-        nextChange_.cancel();
-    } else {
-        nextChange_.schedule(std::prev(due)->date);
-    }
-}
-
 bool DashboardViewModel::isLoading() const {
     return session_.adjustments().state() == LiveState::loading;
 }
@@ -191,31 +160,12 @@ std::span<const LedgerRow> DashboardViewModel::rows() const {
     return isLoading() ? std::span<const LedgerRow>() : session_.adjustments().rows();
 }
 
-std::int64_t DashboardViewModel::startingBalanceMinutes() const {
-    const TimeBankSettings* settings = session_.settingsRecord();
-    return settings ? settings->startingBalanceMinutes()
-                    : TimeBankSettingsValues{}.startingBalanceMinutes;
-}
-
 // A row whose record cannot be read is left out; the next publication tries again.
 const BalanceAdjustment* DashboardViewModel::recordOf(const LedgerRow& row) const {
     try {
         return session_.context().find<BalanceAdjustment>(row.ref);
     } catch (const platform::store::StoreError&) {
         return nullptr;
-    }
-}
-
-double DashboardViewModel::balanceFromStore() const {
-    using Values = BalanceAdjustmentValues;
-    try {
-        const auto due = Filter<BalanceAdjustment>{}.where<&Values::date>(Comparison::lessOrEqual,
-                                                                          session_.time().now());
-        const std::int64_t minutes =
-            session_.context().sum<BalanceAdjustment, &Values::minutes>(due);
-        return static_cast<double>(startingBalance_) * 60 + static_cast<double>(minutes) * 60;
-    } catch (const platform::store::StoreError&) {
-        return std::numeric_limits<double>::quiet_NaN();
     }
 }
 

@@ -6,7 +6,7 @@
 #include "Quillmere/dashboard/BalanceSummary.h"
 #include "Quillmere/dashboard/RecentActivityModel.h"
 #include "Quillmere/dashboard/UndoOffer.h"
-#include "Quillmere/shell/InstantTimer.h"
+#include "Quillmere/shell/LedgerBalance.h"
 #include "QuillmereKit/calculation/BalanceTrendRange.h"
 #include "QuillmereKit/records/LedgerRow.h"
 
@@ -94,33 +94,27 @@ signals:
 private:
     void openComposer(TransactionComposerMode mode);
     void onSaved(BalanceAdjustment& transaction);
-    void onSettingsChanged();
     void onTimeChanged();
-    void updateAll();
     void updateFigures();
     void updateSummary();
     void updateTrend();
     void updateRecent();
-    void scheduleNextChange();
 
     [[nodiscard]] bool isLoading() const;
     [[nodiscard]] std::span<const LedgerRow> rows() const;
-    [[nodiscard]] std::int64_t startingBalanceMinutes() const;
     [[nodiscard]] const BalanceAdjustment* recordOf(const LedgerRow& row) const;
-    [[nodiscard]] double balanceFromStore() const;
 
     StoreSession& session_;
     AppState& appState_;
     platform::Preferences& preferences_;
     platform::DateText dates_;
-    InstantTimer nextChange_;
+    LedgerBalance balance_;
     UndoOffer undoOffer_;
     std::unique_ptr<TransactionComposerViewModel> composer_;
     RecentActivityModel recentItems_;
     BalanceSummary summary_;
     QList<double> trend_;
     BalanceTrendRange range_;
-    std::int64_t startingBalance_ = 0; ///< the one the figures were computed with
     bool hasActivity_ = false;
 };
 
