@@ -24,7 +24,7 @@ public:
 private:
     std::unique_ptr<Database> database_;
     std::unique_ptr<Transaction> transaction_;
-    Revision revision_;
+    Revision revision_ = Revision::none;
 };
 
 } // namespace platform::store

@@ -1,6 +1,5 @@
 #include "Quillmere/shell/LedgerBalance.h"
 
-#include "Platform/store/Context.h"
 #include "Quillmere/shell/StoreSession.h"
 #include "Quillmere/shell/TimeFollower.h"
 #include "QuillmereKit/calculation/TimeBankCalculator.h"
@@ -73,14 +72,8 @@ std::int64_t LedgerBalance::storedStartingBalance() const {
 }
 
 double LedgerBalance::secondsInStore() const {
-    using platform::store::Comparison;
-    using platform::store::Filter;
-    using Values = BalanceAdjustmentValues;
     try {
-        const auto due = Filter<BalanceAdjustment>{}.where<&Values::date>(Comparison::lessOrEqual,
-                                                                          session_.time().now());
-        const std::int64_t minutes =
-            session_.context().sum<BalanceAdjustment, &Values::minutes>(due);
+        const std::int64_t minutes = session_.minutesInStore();
         return static_cast<double>(startingBalance_) * 60 + static_cast<double>(minutes) * 60;
     } catch (const platform::store::StoreError&) {
         return std::numeric_limits<double>::quiet_NaN();

@@ -10,6 +10,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
+#include <cstdint>
 #include <memory>
 #include <stop_token>
 #include <vector>
@@ -22,9 +23,9 @@ class TimeFollower;
 /// from the opening of a store to its closing; a retry of private sync ends one and starts another.
 /// Main thread.
 ///
-/// The settings query is loaded when the session starts. The history is read on a worker; until it
-/// has arrived the adjustments query is loading. What other contexts and other programs commit is
-/// taken in within a second.
+/// The settings query is loaded when the session starts. The history is read on a worker, from when
+/// the program is ready for events; until it has arrived the adjustments query is loading. What
+/// other contexts and other programs commit is taken in within a second.
 ///
 /// View models are constructed with a reference to the session and never outlive it: the
 /// application makes them when a session starts, and when a session ends the QML objects go first,
@@ -52,6 +53,11 @@ public:
     [[nodiscard]] TimeBankSettings* settingsRecord();
     /// What the first settings record holds; the defaults while there is none.
     [[nodiscard]] TimeBankSettingsValues settingsValues();
+
+    /// The minutes of all changes dated up to now, summed in the store: for as long as the history
+    /// is being read. The first sum is worked out beside the start of the program and costs its
+    /// asker nothing. Throws `StoreError`.
+    [[nodiscard]] std::int64_t minutesInStore();
 
 signals:
     /// The settings query published.

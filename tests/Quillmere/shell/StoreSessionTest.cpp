@@ -31,11 +31,13 @@ protected:
         return Store::open(QuillmerePersistence::schema(), {.file = folder_ / "Quillmere.sqlite"});
     }
 
-    void save(Store& store, std::int64_t minutes) {
+    void save(Store& store, std::int64_t minutes) { save(store, minutes, clock_.now()); }
+
+    void save(Store& store, std::int64_t minutes, platform::Instant date) {
         const auto context = store.makeContext({clock_, time_});
-        context->insert(std::make_unique<BalanceAdjustment>(
-            platform::Uuid::random(), clock_.now(), minutes, "", BalanceAdjustmentKind::manual,
-            clock_.now(), clock_.now()));
+        context->insert(std::make_unique<BalanceAdjustment>(platform::Uuid::random(), date, minutes,
+                                                            "", BalanceAdjustmentKind::manual,
+                                                            clock_.now(), clock_.now()));
         context->save();
     }
 
@@ -49,7 +51,7 @@ protected:
     }
 
     std::filesystem::path folder_;
-    platform::SystemClock clock_;
+    platform::ManualClock clock_{platform::Instant{1'780'000'000}};
     TimeFollower time_{clock_};
 };
 
@@ -75,6 +77,47 @@ TEST_F(StoreSessionTest, EmptyHistoryIsEmptyAndNotLoading) {
     ASSERT_TRUE(hasRows(session, 0));
     EXPECT_EQ(session.adjustments().state(), LiveState::empty);
     EXPECT_EQ(session.settingsRecord(), nullptr);
+}
+
+// The first sum is worked out ahead; whatever happens after it has to show all the same.
+TEST_F(StoreSessionTest, SumsTheStoreWhileTheHistoryIsMissing) {
+    struct Turn {
+        const char* name;
+        std::function<void(StoreSession&, Store&)> happens;
+        std::int64_t minutes;
+    };
+    const auto insert = [&](StoreSession& session) {
+        session.context().insert(std::make_unique<BalanceAdjustment>(
+            platform::Uuid::random(), clock_.now(), 7, "", BalanceAdjustmentKind::manual,
+            clock_.now(), clock_.now()));
+    };
+    const std::vector<Turn> turns{
+        {"nothing", [](StoreSession&, Store&) {}, 90},
+        {"a change is pending", [&](StoreSession& session, Store&) { insert(session); }, 97},
+        {"a change is saved",
+         [&](StoreSession& session, Store&) {
+             insert(session);
+             session.context().save();
+         },
+         97},
+        {"another commits",
+         [&](StoreSession& session, Store& store) {
+             save(store, 30);
+             session.context().refresh();
+         },
+         120},
+        {"the clock moves on", [&](StoreSession&, Store&) { clock_.advance(7200); }, 95}};
+    for (const Turn& turn : turns) {
+        SCOPED_TRACE(turn.name);
+        const auto store =
+            Store::open(QuillmerePersistence::schema(), {.file = {}, .inMemory = true});
+        save(*store, 90);
+        save(*store, 5, clock_.now() + 3600);
+        StoreSession session(store, time_);
+        turn.happens(session, *store);
+        EXPECT_EQ(session.adjustments().state(), LiveState::loading);
+        EXPECT_EQ(session.minutesInStore(), turn.minutes);
+    }
 }
 
 TEST_F(StoreSessionTest, TakesInWhatOtherContextsAndOtherProgramsCommit) {
