@@ -18,14 +18,18 @@ function(quillmere_entitlements_json result)
 endfunction()
 
 # quillmere_stamp_entitlements(<executable>...)
-# Writes entitlements.json beside each executable, where it is found when run from the build folder,
-# and installs it once where it is found when the program is installed.
+# Writes entitlements.json beside each executable, where it is found when run from the build folder.
 function(quillmere_stamp_entitlements)
   quillmere_entitlements_json(json)
   foreach(target IN LISTS ARGN)
     file(GENERATE OUTPUT "$<TARGET_FILE_DIR:${target}>/entitlements.json" CONTENT "${json}")
   endforeach()
-  list(GET ARGN 0 first)
-  install(FILES "$<TARGET_FILE_DIR:${first}>/entitlements.json"
+endfunction()
+
+# Installs it once, where every installed program finds it.
+function(quillmere_install_entitlements)
+  quillmere_entitlements_json(json)
+  file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/generated/entitlements.json" CONTENT "${json}")
+  install(FILES "${CMAKE_BINARY_DIR}/generated/entitlements.json"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/quillmere")
 endfunction()

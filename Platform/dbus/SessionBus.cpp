@@ -70,8 +70,8 @@ void SessionBus::emitSignal(const std::string& path, const std::string& interfac
     checked(::sd_bus_send(bus_.get(), made, nullptr), "emit a signal");
 }
 
-void SessionBus::send(const Destination& destination, const std::string& method,
-                      const std::function<void(MessageWriter&)>& writeArguments) {
+void SessionBus::sendWritten(const Destination& destination, const std::string& method,
+                             const std::function<void(MessageWriter&)>& writeArguments) {
     sd_bus_message* made = nullptr;
     checked(::sd_bus_message_new_method_call(bus_.get(), &made, destination.service.c_str(),
                                              destination.path.c_str(),

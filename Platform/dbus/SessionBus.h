@@ -48,8 +48,9 @@ public:
     template <class... Arguments>
     void send(const Destination& destination, const std::string& method,
               const Arguments&... arguments) {
-        send(destination, method,
-             [&](MessageWriter& writer) { (Wire<Arguments>::write(writer, arguments), ...); });
+        sendWritten(destination, method, [&](MessageWriter& writer) {
+            (Wire<Arguments>::write(writer, arguments), ...);
+        });
     }
 
     /// Handles calls until none has come for `idle`; then gives the names back and handles what was
@@ -62,8 +63,8 @@ private:
         void operator()(sd_bus* bus) const;
     };
 
-    void send(const Destination& destination, const std::string& method,
-              const std::function<void(MessageWriter&)>& writeArguments);
+    void sendWritten(const Destination& destination, const std::string& method,
+                     const std::function<void(MessageWriter&)>& writeArguments);
     void handleUntilQuiet(std::chrono::milliseconds quiet);
 
     std::unique_ptr<sd_bus, Close> bus_;
