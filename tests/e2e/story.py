@@ -12,7 +12,7 @@ from desktop.desktop import Desktop  # noqa: E402
 from desktop.time_bank import TimeBank  # noqa: E402
 
 PROGRAM = os.environ.get("QUILLMERE_PROGRAM", str(ROOT / "build/dev/Quillmere/app/quillmere"))
-LEDGER = os.environ.get("QUILLMERE_LEDGER", str(ROOT / "build/dev/tests/e2e/ledger/ledger"))
+LEDGER = os.environ.get("QUILLMERE_LEDGER", str(ROOT / "build/dev/tools/ledger/ledger"))
 
 
 class Story(unittest.TestCase):
