@@ -3,14 +3,12 @@
 
 #include "Platform/store/Store.h"
 #include "QuillmereKit/persistence/QuillmerePersistence.h"
+#include "benchmarks/Folder.h"
 #include "benchmarks/archive/MadeUpArchive.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
-#include <string>
 
 namespace quillmere::benchmarks {
 
@@ -25,24 +23,11 @@ TimeBankArchive fullArchive(double age) {
 /// A store on disk that is gone at the end.
 class NewStore {
 public:
-    ~NewStore() {
-        context_.reset();
-        store_.reset();
-        std::filesystem::remove_all(folder_);
-    }
-    NewStore() = default;
-    NewStore(const NewStore&) = delete;
-    NewStore& operator=(const NewStore&) = delete;
-
     void merge(const TimeBankArchive& archive) { archive.merge(*context_, now); }
     /// So that records already in the store are not in the context as well.
     void forgetRecords() { context_ = makeContext(); }
 
 private:
-    static std::filesystem::path makeFolder() {
-        std::string name = std::filesystem::temp_directory_path() / "archive-benchmark-XXXXXX";
-        return mkdtemp(name.data());
-    }
     std::unique_ptr<platform::store::Context> makeContext() {
         return store_->makeContext({clock_, calendars_});
     }
@@ -50,9 +35,9 @@ private:
     platform::ManualClock clock_{now};
     platform::FixedCalendarSource calendars_{
         {platform::TimeZone::utc(), platform::Region::fromLocale("C")}};
-    std::filesystem::path folder_ = makeFolder();
+    Folder folder_;
     std::shared_ptr<platform::store::Store> store_ =
-        QuillmerePersistence::makeContainer(false, false, false, {folder_, folder_});
+        QuillmerePersistence::makeContainer(false, false, false, {folder_.path(), folder_.path()});
     std::unique_ptr<platform::store::Context> context_ = makeContext();
 };
 

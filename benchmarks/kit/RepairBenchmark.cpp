@@ -7,13 +7,11 @@
 #include "QuillmereKit/records/BalanceAdjustment.h"
 #include "QuillmereKit/transactions/TimeBankTransactionController.h"
 #include "QuillmereKit/widget/WidgetSnapshotBuilder.h"
+#include "benchmarks/Folder.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
-#include <string>
 
 namespace quillmere {
 
@@ -38,9 +36,6 @@ public:
         context->save();
         StorePreparation::prepare(*context);
     }
-    ~LargeStore() { std::filesystem::remove_all(folder_); }
-    LargeStore(const LargeStore&) = delete;
-    LargeStore& operator=(const LargeStore&) = delete;
 
     [[nodiscard]] std::unique_ptr<platform::store::Context> makeContext() const {
         return store_->makeContext({clock_, calendars_});
@@ -48,17 +43,12 @@ public:
     [[nodiscard]] platform::Instant now() const { return clock_.now(); }
 
 private:
-    static std::filesystem::path makeFolder() {
-        std::string name = std::filesystem::temp_directory_path() / "kit-benchmark-XXXXXX";
-        return mkdtemp(name.data());
-    }
-
     platform::SystemClock clock_;
     platform::FixedCalendarSource calendars_{
         {platform::TimeZone::utc(), platform::Region::fromLocale("C")}};
-    std::filesystem::path folder_ = makeFolder();
+    benchmarks::Folder folder_;
     std::shared_ptr<platform::store::Store> store_ =
-        QuillmerePersistence::makeContainer(false, false, false, {folder_, folder_});
+        QuillmerePersistence::makeContainer(false, false, false, {folder_.path(), folder_.path()});
 };
 
 const LargeStore& largeStore() {

@@ -2,8 +2,7 @@
 
 #include "Platform/calendar/Calendar.h"
 #include "Platform/store/Store.h"
-
-#include <stdlib.h>
+#include "benchmarks/Folder.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -13,6 +12,8 @@
 #include <utility>
 
 namespace platform::store::benchmarks {
+
+using quillmere::benchmarks::Folder;
 
 /// A record of ordinary size: a dated, signed amount with a note.
 struct ChangeValues {
@@ -74,25 +75,6 @@ struct ChangeRow {
 };
 
 inline constexpr std::int64_t changeCount = 100'000;
-
-/// A folder that is gone at the end.
-class Folder {
-public:
-    Folder() {
-        std::string name = std::filesystem::temp_directory_path() / "store-benchmark-XXXXXX";
-        path_ = ::mkdtemp(name.data());
-    }
-    ~Folder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    [[nodiscard]] std::filesystem::path operator/(const char* name) const { return path_ / name; }
-
-private:
-    std::filesystem::path path_;
-};
 
 inline std::shared_ptr<Store> openStore(const std::filesystem::path& file) {
     return Store::open(Schema{0x42454e43, 1}.add<Change>(), {.file = file});

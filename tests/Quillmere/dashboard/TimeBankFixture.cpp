@@ -5,7 +5,6 @@
 #include <QtTest/QTest>
 
 #include <sqlite3.h>
-#include <stdlib.h>
 
 namespace quillmere {
 
@@ -14,23 +13,17 @@ namespace {
 using platform::store::LiveState;
 using platform::store::Store;
 
-std::filesystem::path temporaryFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "quillmere-XXXXXX";
-    return mkdtemp(name.data());
-}
-
 } // namespace
 
-TimeBankFixture::TimeBankFixture() : folder_(temporaryFolder()) {
-    store_ = Store::open(QuillmerePersistence::schema(),
-                         {.file = folder_ / "Quillmere.sqlite", .busyTimeoutMilliseconds = 1});
+TimeBankFixture::TimeBankFixture()
+    : store_(
+          Store::open(QuillmerePersistence::schema(), {.file = folder_.path() / "Quillmere.sqlite",
+                                                       .busyTimeoutMilliseconds = 1})) {
 }
 
 TimeBankFixture::~TimeBankFixture() {
     session_.reset();
     unlockStore();
-    store_.reset();
-    std::filesystem::remove_all(folder_);
 }
 
 StoreSession& TimeBankFixture::session() {
@@ -67,7 +60,7 @@ std::string TimeBankFixture::issueTitle() const {
 }
 
 void TimeBankFixture::lockStore() {
-    const std::string file = folder_ / "Quillmere.sqlite";
+    const std::string file = folder_.path() / "Quillmere.sqlite";
     ASSERT_EQ(sqlite3_open(file.c_str(), &locker_), SQLITE_OK);
     ASSERT_EQ(sqlite3_exec(locker_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
 }

@@ -5,10 +5,10 @@
 #include "Quillmere/shell/AppState.h"
 #include "Quillmere/shell/StoreSession.h"
 #include "Quillmere/shell/TimeFollower.h"
+#include "tests/Platform/files/TestFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -51,7 +51,7 @@ protected:
     platform::MemoryPreferences preferences_;
 
 private:
-    std::filesystem::path folder_;
+    TestFolder folder_;
     std::shared_ptr<platform::store::Store> store_;
     std::unique_ptr<StoreSession> session_;
     sqlite3* locker_ = nullptr;
