@@ -20,6 +20,10 @@ BackgroundWork::BackgroundWork(QObject* parent) : QObject(parent) {
 
 BackgroundWork::~BackgroundWork() = default;
 
+QString BackgroundWork::title() const {
+    return isRunning() ? pieces_.front().title : QString();
+}
+
 bool BackgroundWork::isHoldingInput() const {
     return std::ranges::find(pieces_, Kind::writing, &Piece::kind) != pieces_.end();
 }
@@ -27,7 +31,6 @@ bool BackgroundWork::isHoldingInput() const {
 // Each worker waits for the one before it.
 void BackgroundWork::start(Kind kind, const QString& title, std::function<void()> work, Done done) {
     if (!isRunning()) {
-        title_ = title;
         showing_.start();
     }
     pieces_.push_back({kind, title});
@@ -55,9 +58,7 @@ void BackgroundWork::show() {
 
 void BackgroundWork::finish(const Done& done, const std::exception_ptr& problem) {
     pieces_.pop_front();
-    if (isRunning()) {
-        title_ = pieces_.front().title;
-    } else {
+    if (!isRunning()) {
         showing_.stop();
         isShown_ = false;
     }

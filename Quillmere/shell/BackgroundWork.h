@@ -22,7 +22,7 @@ class BackgroundWork : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("owned by the application's state")
-    /// What is under way, in words; kept when it ends, so that it can fade out.
+    /// What is under way, in words; empty when nothing is.
     Q_PROPERTY(QString title READ title NOTIFY changed)
     /// The work, or work that waits, writes records: until it ends, every window holds the user's
     /// input back.
@@ -47,7 +47,7 @@ public:
     /// Runs `work` on a worker, once all that was started before has ended.
     void start(Kind kind, const QString& title, std::function<void()> work, Done done);
 
-    [[nodiscard]] QString title() const { return title_; }
+    [[nodiscard]] QString title() const;
     [[nodiscard]] bool isRunning() const { return !pieces_.empty(); }
     [[nodiscard]] bool isHoldingInput() const;
     [[nodiscard]] bool isShown() const { return isShown_; }
@@ -65,7 +65,6 @@ private:
     void finish(const Done& done, const std::exception_ptr& problem);
 
     std::deque<Piece> pieces_; ///< under way, and behind it what waits
-    QString title_;
     bool isShown_ = false;
     QTimer showing_;
     std::jthread worker_;
