@@ -3,8 +3,8 @@ import QtQuick.Templates as T
 import Quillmere.controls
 import Quillmere.theme
 
-// A panel in the middle of a dimmed window, which it keeps from input. Holds the focus until it closes
-// and then gives it back. Escape closes it.
+// A panel in the middle of a dimmed window, which it keeps from input. Holds the focus until it closes,
+// from the start with a ring, and then gives it back. Escape closes it.
 T.Popup {
     id: root
 
@@ -19,6 +19,11 @@ T.Popup {
     dim: true
     closePolicy: T.Popup.CloseOnEscape
     onAboutToShow: root.keeper.take(root.parent.Window.activeFocusItem)
+    onOpened: {
+        const focused = root.parent.Window.activeFocusItem as T.Control;
+        if (focused !== null)
+            focused.focusReason = Qt.TabFocusReason;
+    }
     onClosed: root.keeper.giveBack(root.parent.Window.activeFocusItem)
 
     T.Overlay.modal: Rectangle {

@@ -28,9 +28,12 @@ ListView {
             focusCurrent();
     }
 
+    // The screen has the keyboard where there are no rows.
     function focusCurrent(): void {
         if (currentItem !== null)
             (currentItem as HistoryRow).takeKeyboard();
+        else
+            root.forceActiveFocus(Qt.OtherFocusReason);
     }
 
     // What a press of a row means with these keys held.
@@ -64,8 +67,11 @@ ListView {
 
     // The last row in sight in a direction, or that of the next page from there.
     function pageEnd(direction: int): int {
-        const edge = () => indexAt(width / 2, direction > 0 ? contentY + height - bottomMargin - 1
-                                                            : contentY + topMargin);
+        const edge = () => {
+            forceLayout(); // Qt 6.8 puts rows in their places later
+            return indexAt(width / 2, direction > 0 ? contentY + height - bottomMargin - 1
+                                                    : contentY + topMargin);
+        };
         positionViewAtIndex(currentIndex, ListView.Contain);
         if (edge() === currentIndex)
             positionViewAtIndex(currentIndex, direction > 0 ? ListView.Beginning : ListView.End);
@@ -136,6 +142,8 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     reuseItems: true
+    // Qt warns of a row that it makes in advance when that goes together with all others.
+    cacheBuffer: 0
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: false
     T.ScrollBar.vertical: ThinScrollBar {}

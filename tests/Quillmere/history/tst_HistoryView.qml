@@ -63,6 +63,7 @@ Item {
 
         function row(index) {
             list.positionViewAtIndex(index, ListView.Contain);
+            list.forceLayout();
             return findChild(list.itemAtIndex(index), "history.item");
         }
 
@@ -163,6 +164,7 @@ Item {
             keyClick(Qt.Key_Down, Qt.ShiftModifier);
             keyClick(Qt.Key_Delete);
             tryVerify(() => window.Window.activeFocusItem.text === "Cancel");
+            tryVerify(() => window.Window.activeFocusItem.visualFocus, 5000, "and shows it");
             verify(shown("Delete 2 items?"));
             keyClick(Qt.Key_Tab);
             compare(window.Window.activeFocusItem.objectName, "history.confirmDelete");
@@ -201,6 +203,7 @@ Item {
             Fixture.removeAll();
             verify(named(screen, "No changes yet"));
             verify(named(screen, "Time you add or subtract appears here."));
+            tryVerify(() => screen.activeFocus, 5000, "somebody has the keyboard");
             keyClick(Qt.Key_Return);
             compare(Fixture.model.editor, null);
         }
