@@ -39,6 +39,10 @@ T.Button {
     Keys.onPressed: event => event.accepted = event.isAutoRepeat && event.key === Qt.Key_Space
     Keys.onReleased: event => event.accepted = event.isAutoRepeat && event.key === Qt.Key_Space
 
+    Behavior on opacity {
+        NumberAnimation { duration: Theme.fadeDuration }
+    }
+
     FocusRing {
         shown: root.visualFocus
         radius: root.radius

@@ -18,7 +18,10 @@ T.MenuItem {
     rightPadding: 14
     font: Theme.body
     opacity: enabled ? 1 : Theme.disabledOpacity
-    Accessible.onPressAction: root.clicked()
+    Accessible.onPressAction: {
+        if (root.enabled)
+            root.clicked();
+    }
 
     background: Rectangle {
         radius: Theme.popoverRadius - 5

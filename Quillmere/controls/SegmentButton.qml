@@ -17,8 +17,13 @@ T.RadioButton {
     Accessible.role: Accessible.RadioButton
     Accessible.name: root.text
     // Qt 6.4 has no click() and loses what assistive technology presses.
-    Accessible.onPressAction: root.clicked()
-    Accessible.onToggleAction: root.clicked()
+    Accessible.onPressAction: root.choose()
+    Accessible.onToggleAction: root.choose()
+
+    function choose(): void {
+        if (root.enabled)
+            root.clicked();
+    }
 
     background: Surface {
         color: root.checked ? Theme.segment

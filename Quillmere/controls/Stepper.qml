@@ -20,8 +20,14 @@ T.SpinBox {
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.SpinBox
     Accessible.focusable: root.enabled
-    Accessible.onIncreaseAction: root.increase()
-    Accessible.onDecreaseAction: root.decrease()
+    Accessible.onIncreaseAction: {
+        if (root.enabled)
+            root.increase();
+    }
+    Accessible.onDecreaseAction: {
+        if (root.enabled)
+            root.decrease();
+    }
     onValueChanged: root.modified(root.value)
     Keys.onLeftPressed: root.decrease()
     Keys.onRightPressed: root.increase()

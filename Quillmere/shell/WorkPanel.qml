@@ -6,11 +6,14 @@ import Quillmere.shell
 import Quillmere.theme
 
 // Tells that long work is under way. Work that writes holds the window's input back from its first
-// moment; the panel itself comes into sight when the work takes noticeably long.
+// moment, that of assistive technology too, for which nothing in the window can be used; the panel
+// itself comes into sight when the work takes noticeably long.
 ModalPanel {
     id: root
 
     required property BackgroundWork work
+
+    readonly property T.ApplicationWindow window: root.parent.Window.window as T.ApplicationWindow
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -25,6 +28,19 @@ ModalPanel {
         color: root.work.isShown ? Theme.scrim : "transparent" // qmllint disable unqualified
 
         Behavior on color { FadeMotion {} }
+    }
+
+    // The window's content, and the sheets over it.
+    Binding {
+        target: root.window?.contentItem ?? null
+        property: "enabled"
+        value: !root.opened
+    }
+
+    Binding {
+        target: root.parent
+        property: "enabled"
+        value: !root.opened
     }
 
     background.opacity: root.work.isShown ? 1 : 0
