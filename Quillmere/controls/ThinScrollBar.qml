@@ -12,6 +12,7 @@ T.ScrollBar {
     padding: 3
     minimumSize: 0.08
     visible: policy !== T.ScrollBar.AlwaysOff && size < 1
+    Accessible.name: qsTr("Scroll bar")
 
     contentItem: Rectangle {
         implicitWidth: 6
