@@ -2,14 +2,12 @@
 
 #include "Quillmere/shell/TimeFollower.h"
 #include "QuillmereKit/persistence/QuillmerePersistence.h"
+#include "tests/Platform/files/TestFolder.h"
 
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
-
-#include <filesystem>
 
 namespace quillmere {
 namespace {
@@ -21,14 +19,9 @@ constexpr int patience = 30'000;
 
 class StoreSessionTest : public testing::Test {
 protected:
-    StoreSessionTest() {
-        std::string name = std::filesystem::temp_directory_path() / "quillmere-XXXXXX";
-        folder_ = mkdtemp(name.data());
-    }
-    ~StoreSessionTest() override { std::filesystem::remove_all(folder_); }
-
     [[nodiscard]] std::shared_ptr<Store> open() const {
-        return Store::open(QuillmerePersistence::schema(), {.file = folder_ / "Quillmere.sqlite"});
+        return Store::open(QuillmerePersistence::schema(),
+                           {.file = folder_.path() / "Quillmere.sqlite"});
     }
 
     void save(Store& store, std::int64_t minutes) { save(store, minutes, clock_.now()); }
@@ -50,7 +43,7 @@ protected:
             patience);
     }
 
-    std::filesystem::path folder_;
+    TestFolder folder_;
     platform::ManualClock clock_{platform::Instant{1'780'000'000}};
     TimeFollower time_{clock_};
 };
