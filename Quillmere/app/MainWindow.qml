@@ -58,6 +58,7 @@ T.ApplicationWindow {
         onSceneRequested: content.setSource("MainScene.qml", {
             appState: root.model.appState,
             storage: root.model.storage,
+            widgetRefresh: root.model.widgetRefresh,
             scene: root.model.scene,
             commands: commands
         })

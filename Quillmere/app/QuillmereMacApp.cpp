@@ -39,6 +39,7 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       loginItem_(folders_.configuration(), desktopId, programName,
                  std::filesystem::read_symlink("/proc/self/exe")),
       entitlements_(platform::FileEntitlements::ofRunningProgram()),
+      widgetCenter_(bus),
       preferencesFollower_(preferences_),
       desktop_(bus),
       appearance_(preferences_, desktop_),
@@ -144,7 +145,7 @@ void QuillmereMacApp::followPreferences() {
 }
 
 WindowModel::Application QuillmereMacApp::windows() {
-    return {appState_, storage_, appearance_, routes_};
+    return {appState_, storage_, appearance_, routes_, {log_, widgetPublisher()}};
 }
 
 SettingsViewModel::Services QuillmereMacApp::settingsServices() {
@@ -153,8 +154,13 @@ SettingsViewModel::Services QuillmereMacApp::settingsServices() {
             preferencesFollower_,
             loginItem_,
             folders_,
-            WidgetSnapshotStore::chosenDefaults(entitlements_, &suite_, preferences_),
+            widgetPublisher(),
             AppVersion::text(QString::fromUtf8(versionText), QString::fromUtf8(buildNumberText))};
+}
+
+WidgetPublisher QuillmereMacApp::widgetPublisher() {
+    return {WidgetSnapshotStore::chosenDefaults(entitlements_, &suite_, preferences_),
+            widgetCenter_};
 }
 
 QQuickWindow* QuillmereMacApp::mainWindow() const {

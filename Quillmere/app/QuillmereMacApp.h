@@ -18,6 +18,7 @@
 #include "Quillmere/shell/PreferencesFollower.h"
 #include "Quillmere/shell/QuillmereMacAppDelegate.h"
 #include "Quillmere/shell/TimeFollower.h"
+#include "Quillmere/widget/BusWidgetCenter.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
@@ -55,6 +56,7 @@ private:
     void followPreferences();
     [[nodiscard]] WindowModel::Application windows();
     [[nodiscard]] SettingsViewModel::Services settingsServices();
+    [[nodiscard]] WidgetPublisher widgetPublisher();
     [[nodiscard]] QQuickWindow* mainWindow() const;
 
     QDBusConnection bus_;
@@ -66,6 +68,7 @@ private:
     platform::FilePreferences suite_;
     platform::LoginItem loginItem_;
     platform::FileEntitlements entitlements_;
+    BusWidgetCenter widgetCenter_;
     PreferencesFollower preferencesFollower_;
     PortalDesktopSettings desktop_;
     AppearanceModel appearance_;

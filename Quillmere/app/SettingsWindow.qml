@@ -44,6 +44,7 @@ T.ApplicationWindow {
         onSceneRequested: content.setSource("SettingsScene.qml", {
             appState: root.model.appState,
             storage: root.model.storage,
+            widgetRefresh: root.model.widgetRefresh,
             scene: root.model.scene
         })
     }

@@ -1,5 +1,6 @@
 #include "Quillmere/app/WindowModel.h"
 
+#include "Quillmere/shell/ContinuousCountdown.h"
 #include "QuillmereKit/records/AppConstants.h"
 
 #include <utility>
@@ -33,8 +34,12 @@ WindowModel::Content WindowModel::content() const {
 // session.
 void WindowModel::onSessionChanged() {
     auto old = std::exchange(scene_, nullptr);
+    widgetRefresh_ = nullptr;
     if (StoreSession* session = application_.storage.session()) {
         scene_ = makeScene_(*session);
+        widgetRefresh_ = new WidgetRefreshObserverViewModel(
+            *session, application_.appState, application_.widget,
+            std::make_unique<ContinuousCountdown>(), scene_.get());
     }
     emit contentChanged();
     if (old) {

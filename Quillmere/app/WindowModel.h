@@ -4,6 +4,7 @@
 #include "Quillmere/shell/AppStorageController.h"
 #include "Quillmere/shell/AppearanceModel.h"
 #include "Quillmere/shell/RouteSelection.h"
+#include "Quillmere/widget/WidgetRefreshObserverViewModel.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QUrl>
@@ -29,6 +30,9 @@ class WindowModel : public QObject {
     Q_PROPERTY(Content content READ content NOTIFY contentChanged)
     /// The view model of the window's content on an open store. Null unless the content is `Scene`.
     Q_PROPERTY(QObject* scene READ scene NOTIFY contentChanged)
+    /// What keeps the widget snapshot current on behalf of this window. Null where the scene is.
+    Q_PROPERTY(quillmere::WidgetRefreshObserverViewModel* widgetRefresh READ widgetRefresh NOTIFY
+                   contentChanged)
 
 public:
     enum Content {
@@ -44,6 +48,7 @@ public:
         AppStorageController& storage;
         AppearanceModel& appearance;
         RouteSelection& routes;
+        WidgetRefreshObserverViewModel::Services widget;
     };
     using MakeScene = std::function<std::unique_ptr<QObject>(StoreSession&)>;
 
@@ -58,6 +63,7 @@ public:
     [[nodiscard]] static QUrl supportURL();
     [[nodiscard]] Content content() const;
     [[nodiscard]] QObject* scene() const { return scene_.get(); }
+    [[nodiscard]] WidgetRefreshObserverViewModel* widgetRefresh() const { return widgetRefresh_; }
 
 signals:
     /// The views of what was shown before must be let go at once.
@@ -71,6 +77,7 @@ private:
     Application application_;
     MakeScene makeScene_;
     std::unique_ptr<QObject> scene_;
+    WidgetRefreshObserverViewModel* widgetRefresh_ = nullptr; ///< child of the scene
 };
 
 } // namespace quillmere

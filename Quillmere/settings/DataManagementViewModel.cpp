@@ -197,7 +197,7 @@ void DataManagementViewModel::eraseAll() {
         if (problem) {
             reportUnerased(services.appState, *problem);
         } else {
-            WidgetSnapshotStore::save(WidgetSnapshot::empty(clock), services.widgetDefaults);
+            services.widgets.publish(WidgetSnapshot::empty(clock));
         }
     };
     services_.appState.work()->start(

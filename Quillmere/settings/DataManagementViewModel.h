@@ -3,6 +3,7 @@
 #include "Quillmere/settings/ArchiveImportNotice.h"
 #include "Quillmere/settings/PendingArchiveImport.h"
 #include "Quillmere/share/FileShare.h"
+#include "QuillmereKit/widget/WidgetPublisher.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
@@ -55,8 +56,7 @@ public:
         AppState& appState;
         AppStorageController& storage;
         const platform::UserFolders& folders;
-        /// Where the widget snapshot is published; see `WidgetSnapshotStore::chosenDefaults`.
-        platform::Preferences& widgetDefaults;
+        WidgetPublisher widgets;
     };
 
     /// Everything given must outlive the object, the services its work as well.

@@ -42,8 +42,8 @@ SettingsViewModel::SettingsViewModel(StoreSession& session, const Services& serv
       menuBarDisplayMode_(services.preferences, AppConstants::menuBarDisplayModeKey,
                           choicesOf(MenuBarDisplayModes::all)),
       closesWindowToMenuBar_(services.preferences, AppConstants::closeWindowToMenuBarKey, false),
-      dataManagement_(session, {services.appState, services.storage, services.folders,
-                                services.widgetDefaults}) {
+      dataManagement_(session,
+                      {services.appState, services.storage, services.folders, services.widgets}) {
     connect(&services.storage, &AppStorageController::resultChanged, this,
             &SettingsViewModel::storageChanged);
     connect(&services.storage, &AppStorageController::didLastICloudRetryFailChanged, this,

@@ -50,8 +50,7 @@ public:
         PreferencesFollower& preferences; ///< of the standard domain
         platform::LoginItem& loginItem;
         const platform::UserFolders& folders;
-        /// Where the widget snapshot is published; see `WidgetSnapshotStore::chosenDefaults`.
-        platform::Preferences& widgetDefaults;
+        WidgetPublisher widgets;
         QString version; ///< as the user reads it
     };
 

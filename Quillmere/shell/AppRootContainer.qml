@@ -1,15 +1,21 @@
 import QtQuick
 import Quillmere.shell
 import Quillmere.theme
+import Quillmere.widget
 
-// What surrounds the content of every window on an open store: the status banner above it, and the
-// alert and the progress of long work over it.
+// What surrounds the content of every window on an open store: the status banner above it, the alert
+// and the progress of long work over it, and behind it what keeps the widget snapshot current.
 FocusScope {
     id: root
 
     required property AppState appState
     required property AppStorageController storage
+    required property WidgetRefreshObserverViewModel widgetRefresh
     default property alias content: slot.data
+
+    WidgetRefreshObserver {
+        model: root.widgetRefresh
+    }
 
     // Keeps the window's glow from tinting the banner.
     Rectangle {

@@ -6,6 +6,7 @@
 #include "Quillmere/shell/PreferencesFollower.h"
 #include "Quillmere/shell/TimeFollower.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
+#include "tests/Quillmere/widget/CountingWidgetCenter.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtQml/QQmlApplicationEngine>
@@ -73,11 +74,18 @@ protected:
         storage_.reset();
     }
 
-    WindowModel::Application windows() { return {appState_, *storage_, appearance_, routes_}; }
+    WindowModel::Application windows() {
+        return {appState_, *storage_, appearance_, routes_, {log_, {widget_, widgets_}}};
+    }
 
     SettingsViewModel::Services services() {
-        return {
-            appState_, *storage_, follower_, loginItem_, folders_, widget_, QStringLiteral("1.2")};
+        return {appState_,
+                *storage_,
+                follower_,
+                loginItem_,
+                folders_,
+                {widget_, widgets_},
+                QStringLiteral("1.2")};
     }
 
     QQuickWindow& window() { return *qobject_cast<QQuickWindow*>(engine_.rootObjects().first()); }
@@ -106,6 +114,7 @@ protected:
     platform::MemoryPreferences preferences_;
     platform::MemoryPreferences prototype_;
     platform::MemoryPreferences widget_;
+    CountingWidgetCenter widgets_;
     PreferencesFollower follower_{preferences_};
     QTemporaryDir folder_;
     platform::UserFolders folders_{{}, {}, folder_.path().toStdString()};

@@ -9,6 +9,7 @@
 #include "tests/Platform/files/TestFolder.h"
 #include "tests/Quillmere/dashboard/TimeBankFixture.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
+#include "tests/Quillmere/widget/CountingWidgetCenter.h"
 
 #include <QtTest/QTest>
 
@@ -69,7 +70,8 @@ protected:
     AppStorageController storage_{container_, container_.make(), time_};
     platform::UserFolders folders_{folder_.path(), folder_.path(), folder_.path()};
     platform::MemoryPreferences widget_;
-    DataManagementViewModel model_{session(), {appState_, storage_, folders_, widget_}};
+    CountingWidgetCenter widgets_;
+    DataManagementViewModel model_{session(), {appState_, storage_, folders_, {widget_, widgets_}}};
 };
 
 } // namespace
@@ -168,6 +170,7 @@ TEST_F(DataManagementTest, AFailureChangesNothingAndSaysSo) {
     EXPECT_EQ(changes(), 0U);
     EXPECT_NE(session().settingsRecord(), nullptr);
     EXPECT_TRUE(widget_.empty());
+    EXPECT_EQ(widgets_.reloads, 0);
 }
 
 TEST_F(DataManagementTest, ErasesEverythingAndLeavesTheWidgetUnconfigured) {
@@ -182,6 +185,7 @@ TEST_F(DataManagementTest, ErasesEverythingAndLeavesTheWidgetUnconfigured) {
     EXPECT_EQ(session().settingsRecord(), nullptr);
     EXPECT_EQ(changes(), 0U);
     EXPECT_FALSE(WidgetSnapshotStore::load(widget_, clock_).isConfigured);
+    EXPECT_EQ(widgets_.reloads, 1);
     EXPECT_FALSE(appState_.hasIssue());
 }
 

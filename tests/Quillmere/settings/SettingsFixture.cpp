@@ -16,9 +16,13 @@ SettingsFixture::~SettingsFixture() = default;
 
 SettingsViewModel* SettingsFixture::open() {
     model_ = std::make_unique<SettingsViewModel>(
-        session(),
-        SettingsViewModel::Services{appState(), *storage_, follower_, loginItem_, folders_,
-                                    preferences(), QStringLiteral("1.2 (45)")});
+        session(), SettingsViewModel::Services{appState(),
+                                               *storage_,
+                                               follower_,
+                                               loginItem_,
+                                               folders_,
+                                               {preferences(), widgets_},
+                                               QStringLiteral("1.2 (45)")});
     QQmlEngine::setObjectOwnership(model_.get(), QQmlEngine::CppOwnership);
     return model_.get();
 }

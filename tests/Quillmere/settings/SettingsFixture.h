@@ -7,6 +7,7 @@
 #include "Quillmere/shell/PreferencesFollower.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
 #include "tests/Quillmere/support/StoreFixture.h"
+#include "tests/Quillmere/widget/CountingWidgetCenter.h"
 
 #include <QtCore/QTemporaryDir>
 
@@ -35,6 +36,7 @@ private:
     platform::UserFolders folders_{{}, {}, folder_.path().toStdString()};
     platform::LoginItem loginItem_{folder_.path().toStdString(), "quillmere", "Quillmere",
                                    "/usr/bin/quillmere"};
+    CountingWidgetCenter widgets_;
     std::unique_ptr<SettingsViewModel> model_;
 };
 

@@ -8,6 +8,7 @@
 #include "QuillmereKit/records/AppConstants.h"
 #include "tests/Quillmere/dashboard/TimeBankFixture.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
+#include "tests/Quillmere/widget/CountingWidgetCenter.h"
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
@@ -32,8 +33,13 @@ protected:
             storage_.emplace(container_, container_.make(), time_);
         }
         model_ = std::make_unique<SettingsViewModel>(
-            session(), SettingsViewModel::Services{appState_, *storage_, follower_, loginItem_,
-                                                   folders_, preferences_, QString()});
+            session(), SettingsViewModel::Services{appState_,
+                                                   *storage_,
+                                                   follower_,
+                                                   loginItem_,
+                                                   folders_,
+                                                   {preferences_, widgets_},
+                                                   QString()});
         return *model_;
     }
 
@@ -49,6 +55,7 @@ protected:
     platform::UserFolders folders_{{}, {}, folder_.path().toStdString()};
     platform::LoginItem loginItem_{folder_.path().toStdString(), "quillmere", "Quillmere",
                                    "/usr/bin/quillmere"};
+    CountingWidgetCenter widgets_;
     std::unique_ptr<SettingsViewModel> model_;
 };
 

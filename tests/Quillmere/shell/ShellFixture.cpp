@@ -1,5 +1,6 @@
 #include "tests/Quillmere/shell/ShellFixture.h"
 
+#include "Quillmere/shell/ContinuousCountdown.h"
 #include "tests/Quillmere/support/QmlFixture.h"
 
 #include <QtQml/QQmlEngine>
@@ -19,7 +20,10 @@ std::map<AppRoute, Screen> screens() {
 
 } // namespace
 
-ShellFixture::ShellFixture() : root_(routes_, screens()) {
+ShellFixture::ShellFixture()
+    : root_(routes_, screens()),
+      widgetRefresh_(session(), appState(), {log(), {preferences(), widgets_}},
+                     std::make_unique<ContinuousCountdown>()) {
     QDesktopServices::setUrlHandler(QStringLiteral("quillmere"), &routes_, "open");
 }
 

@@ -3,8 +3,10 @@
 #include "Quillmere/shell/AppStorageController.h"
 #include "Quillmere/shell/MacRootViewModel.h"
 #include "Quillmere/shell/RouteSelection.h"
+#include "Quillmere/widget/WidgetRefreshObserverViewModel.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
 #include "tests/Quillmere/support/StoreFixture.h"
+#include "tests/Quillmere/widget/CountingWidgetCenter.h"
 
 #include <QtGui/QDesktopServices>
 
@@ -18,6 +20,7 @@ class ShellFixture : public StoreFixture {
     Q_PROPERTY(quillmere::AppState* appState READ appStatePointer CONSTANT)
     Q_PROPERTY(quillmere::RouteSelection* routes READ routes CONSTANT)
     Q_PROPERTY(quillmere::MacRootViewModel* root READ root CONSTANT)
+    Q_PROPERTY(quillmere::WidgetRefreshObserverViewModel* widgetRefresh READ widgetRefresh CONSTANT)
 
 public:
     ShellFixture();
@@ -26,6 +29,7 @@ public:
     [[nodiscard]] AppState* appStatePointer() { return &appState(); }
     [[nodiscard]] RouteSelection* routes() { return &routes_; }
     [[nodiscard]] MacRootViewModel* root() { return &root_; }
+    [[nodiscard]] WidgetRefreshObserverViewModel* widgetRefresh() { return &widgetRefresh_; }
 
     /// Storage whose attempts named in `failing` fail ("cloud", "local", "memory").
     Q_INVOKABLE quillmere::AppStorageController* storageWithout(const QStringList& failing);
@@ -38,6 +42,8 @@ private:
     AppModelContainer container_{opener_, log()};
     RouteSelection routes_{preferences()};
     MacRootViewModel root_;
+    CountingWidgetCenter widgets_;
+    WidgetRefreshObserverViewModel widgetRefresh_;
     std::unique_ptr<AppStorageController> storage_;
 };
 

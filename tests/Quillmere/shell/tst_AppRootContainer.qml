@@ -27,6 +27,7 @@ Item {
                 AppRootContainer {
                     anchors.fill: parent
                     appState: Fixture.appState
+                    widgetRefresh: Fixture.widgetRefresh
 
                     T.Button {
                         objectName: "content"
@@ -98,6 +99,15 @@ Item {
                 keyClick(row.key);
                 tryVerify(() => !Fixture.hasIssue());
                 tryVerify(() => content.activeFocus);
+            }
+
+            function test_widgetsFollowTheWindowThatIsActive() {
+                createTemporaryObject(container, testCase, { storage: Fixture.storageWithout([]) });
+                window.requestActivate();
+                tryVerify(() => Fixture.widgetRefresh.isActive);
+                window.hide();
+                tryVerify(() => !Fixture.widgetRefresh.isActive);
+                window.show();
             }
 
             function test_issueRaisedBeforeThereIsAContainerWaitsForIt() {
