@@ -23,6 +23,14 @@ void add(std::int64_t& sum, std::int64_t minutes) {
     }
 }
 
+template <class Change>
+void add(StoredBalance::Figures& figures, const Change& change, Instant dayStart) {
+    add(figures.balanceMinutes, change.minutes);
+    if (change.date >= dayStart) {
+        add(change.minutes > 0 ? figures.addedMinutes : figures.takenMinutes, change.minutes);
+    }
+}
+
 } // namespace
 
 StoredBalance::StoredBalance(platform::store::Context& context)
@@ -30,42 +38,25 @@ StoredBalance::StoredBalance(platform::store::Context& context)
 }
 
 StoredBalance::Figures StoredBalance::figures(Instant dayStart, Instant through) {
-    if (!recall(dayStart)) {
-        readAll(dayStart);
+    if (!recall(dayStart, through)) {
+        readAll(dayStart, through);
     }
-    Figures figures{.balanceMinutes = earlierMinutes_};
+    Figures figures = summedUp_;
     for (const auto& [key, change] : listed_) {
-        if (!change || !(change->date <= through)) {
-            continue;
-        }
-        add(figures.balanceMinutes, change->minutes);
-        if (change->date >= dayStart) {
-            add(change->minutes > 0 ? figures.addedMinutes : figures.takenMinutes, change->minutes);
+        if (change && change->date <= through) {
+            add(figures, *change, dayStart);
         }
     }
     return figures;
 }
 
 /// Starts from the note and what was written since. Answers whether that was enough.
-bool StoredBalance::recall(Instant dayStart) {
+bool StoredBalance::recall(Instant dayStart, Instant through) {
     const auto mark = memory_.recall(context_.clock().now());
-    if (!mark) {
+    if (!mark || !readNote(mark->finding, dayStart, through) || !takeInNewer(*mark)) {
         return false;
     }
-    std::string_view words = mark->finding;
-    const auto lastKey = NoteWords::number<std::int64_t>(NoteWords::take(words));
-    const auto from = NoteWords::number<double>(NoteWords::take(words));
-    const auto minutes = NoteWords::number<std::int64_t>(NoteWords::take(words));
-    if (!lastKey || !from || !minutes || dayStart < Instant{*from}) {
-        return false;
-    }
-    lastKey_ = RowKey{*lastKey};
-    earlierMinutes_ = *minutes;
-    const std::vector<RowKey> laterKeys = NoteWords::keys(words);
-    if (!takeInNewer(*mark, laterKeys)) {
-        return false;
-    }
-    for (const RowKey key : laterKeys) {
+    for (const RowKey key : laterKeys_) {
         const auto* record =
             listed_.contains(key) ? nullptr : context_.find<BalanceAdjustment>(key);
         if (record != nullptr) {
@@ -75,11 +66,43 @@ bool StoredBalance::recall(Instant dayStart) {
     return true;
 }
 
-bool StoredBalance::takeInNewer(const RepairMark& mark, const std::vector<RowKey>& laterKeys) {
+std::string StoredBalance::noteWords() const {
+    std::vector<RowKey> keys;
+    for (const auto& entry : listed_) {
+        keys.push_back(entry.first);
+    }
+    using NoteWords::text;
+    return text(static_cast<std::int64_t>(lastKey_)) + ' ' + text(dayStart_.secondsSince1970) +
+           ' ' + text(through_.secondsSince1970) + ' ' + text(summedUp_.balanceMinutes) + ' ' +
+           text(summedUp_.addedMinutes) + ' ' + text(summedUp_.takenMinutes) + ' ' +
+           NoteWords::list(keys);
+}
+
+/// Answers whether the note serves these times: the same day later on, or another day after it.
+bool StoredBalance::readNote(std::string_view words, Instant dayStart, Instant through) {
+    const auto whole = [&] { return NoteWords::number<std::int64_t>(NoteWords::take(words)); };
+    const auto instant = [&] { return NoteWords::number<double>(NoteWords::take(words)); };
+    const auto lastKey = whole();
+    const auto notedStart = instant();
+    const auto notedThrough = instant();
+    const auto balance = whole();
+    const auto added = whole();
+    const auto taken = whole();
+    if (!lastKey || !notedStart || !notedThrough || !balance || !added || !taken) {
+        return false;
+    }
+    lastKey_ = RowKey{*lastKey};
+    laterKeys_ = NoteWords::keys(words);
+    const bool isSameDay = Instant{*notedStart} == dayStart;
+    summedUp_ = isSameDay ? Figures{*balance, *added, *taken} : Figures{*balance, 0, 0};
+    return isSameDay ? Instant{*notedThrough} <= through : Instant{*notedThrough} < dayStart;
+}
+
+bool StoredBalance::takeInNewer(const RepairMark& mark) {
     return context_.scanChangedSince<BalanceAdjustment>(
-        mark.revision, [&](RowKey key, const Values* values) {
+        mark.revision, [this](RowKey key, const BalanceAdjustmentValues* values) {
             const bool isSummedUp =
-                key <= lastKey_ && std::ranges::find(laterKeys, key) == laterKeys.end();
+                key <= lastKey_ && std::ranges::find(laterKeys_, key) == laterKeys_.end();
             if (isSummedUp || listed_.size() > mostListed) {
                 return false;
             }
@@ -89,35 +112,30 @@ bool StoredBalance::takeInNewer(const RepairMark& mark, const std::vector<RowKey
         });
 }
 
-void StoredBalance::readAll(Instant dayStart) {
+void StoredBalance::readAll(Instant dayStart, Instant through) {
     mark_.revision = context_.revision();
     lastKey_ = RowKey::none;
-    earlierMinutes_ = 0;
+    summedUp_ = {};
+    dayStart_ = dayStart;
+    through_ = through;
     listed_.clear();
-    listedFrom_ = dayStart;
-    context_.scan<BalanceAdjustment>({}, [&](RowKey key, const Values& values) {
+    context_.scan<BalanceAdjustment>({}, [&](RowKey key, const BalanceAdjustmentValues& values) {
+        const Change change{values.date, values.minutes};
         ++looked_;
         lastKey_ = std::max(lastKey_, key);
-        if (values.date < dayStart) {
-            add(earlierMinutes_, values.minutes);
+        if (change.date <= through) {
+            add(summedUp_, change, dayStart);
         } else {
-            listed_[key] = Change{values.date, values.minutes};
+            listed_[key] = change;
         }
     });
 }
 
 void StoredBalance::remember() {
-    if (listed_.size() > mostListed || context_.hasChanges()) {
-        return;
+    if (listed_.size() <= mostListed && !context_.hasChanges()) {
+        mark_.finding = noteWords();
+        memory_.finish(mark_, false, looked_);
     }
-    std::vector<RowKey> keys;
-    for (const auto& entry : listed_) {
-        keys.push_back(entry.first);
-    }
-    mark_.finding = NoteWords::text(static_cast<std::int64_t>(lastKey_)) + ' ' +
-                    NoteWords::text(listedFrom_.secondsSince1970) + ' ' +
-                    NoteWords::text(earlierMinutes_) + ' ' + NoteWords::list(keys);
-    memory_.finish(mark_, false, looked_);
 }
 
 } // namespace quillmere

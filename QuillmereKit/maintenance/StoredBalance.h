@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -14,9 +16,9 @@ namespace quillmere {
 
 /// Sums up the changes of a store without reading all of them each time.
 ///
-/// A note of the store holds what the changes before some day add up to, which ones are later, and
-/// the revision of which that is true. The next sum looks only at the later ones and at what was
-/// written since; where an earlier change was edited or deleted, it reads all of them.
+/// A note of the store holds what the changes up to some moment add up to, which ones are later,
+/// and the revision of which that is true. The next sum looks only at the later ones and at what
+/// was written since; where an earlier change was edited or deleted, it reads all of them.
 class StoredBalance {
 public:
     struct Figures {
@@ -41,21 +43,23 @@ private:
         platform::Instant date;
         std::int64_t minutes;
     };
-    using Values = BalanceAdjustmentValues;
-
-    bool recall(platform::Instant dayStart);
-    bool takeInNewer(const RepairMark& mark, const std::vector<platform::store::RowKey>& laterKeys);
-    void readAll(platform::Instant dayStart);
+    bool recall(platform::Instant dayStart, platform::Instant through);
+    bool readNote(std::string_view words, platform::Instant dayStart, platform::Instant through);
+    bool takeInNewer(const RepairMark& mark);
+    void readAll(platform::Instant dayStart, platform::Instant through);
+    [[nodiscard]] std::string noteWords() const;
 
     platform::store::Context& context_;
     RepairMemory memory_;
     RepairMark mark_;
     /// The greatest key among the changes that were there when all were read; new ones are greater.
     platform::store::RowKey lastKey_ = platform::store::RowKey::none;
-    std::int64_t earlierMinutes_ = 0; ///< of the changes that are not listed
+    Figures summedUp_; ///< of the changes that are not listed
+    platform::Instant dayStart_;
+    platform::Instant through_;
     /// The changes that count one by one; nothing where one is gone.
     std::unordered_map<platform::store::RowKey, std::optional<Change>> listed_;
-    platform::Instant listedFrom_;
+    std::vector<platform::store::RowKey> laterKeys_;
     std::size_t looked_ = 0;
 };
 
