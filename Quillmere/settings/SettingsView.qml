@@ -9,11 +9,24 @@ FocusScope {
 
     required property SettingsViewModel model
 
+    property bool retryFailed: false
+
     objectName: "settings.screen"
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Settings")
     Component.onCompleted: root.model.appear()
     Keys.forwardTo: [scrollKeys]
+
+    // The store was opened anew, and this form made anew: whoever asked for that is where they were.
+    Connections {
+        target: root.model
+
+        function onStorageChanged() {
+            root.retryFailed = root.model.didLastICloudRetryFail;
+            if (root.retryFailed)
+                sync.retryButton.forceActiveFocus(Qt.TabFocusReason);
+        }
+    }
 
     ScrollKeys {
         id: scrollKeys
@@ -45,8 +58,14 @@ FocusScope {
         }
 
         SyncSection {
+            id: sync
+
             width: parent.width
             model: root.model
+            onHeightChanged: {
+                if (root.retryFailed)
+                    page.reveal(sync);
+            }
         }
 
         HelpSection {

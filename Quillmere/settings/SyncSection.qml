@@ -8,6 +8,8 @@ FormSection {
 
     required property SettingsViewModel model
 
+    readonly property alias retryButton: retry
+
     title: qsTr("Sync & privacy")
 
     FormRow {
@@ -18,6 +20,8 @@ FormSection {
     }
 
     ActionRow {
+        id: retry
+
         objectName: "settings.retryICloud"
         visible: root.model.canRetryICloud
         text: qsTr("Retry iCloud sync")

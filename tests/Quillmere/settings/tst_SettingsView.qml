@@ -94,6 +94,18 @@ Item {
             }
         }
 
+        function test_aRetryThatFailedIsInSight() {
+            shown.model.retryICloud();
+            tryVerify(() => focusedName() === "settings.retryICloud");
+            for (const name of ["settings.retryICloud", "settings.iCloudRetryFeedback"]) {
+                const item = part(name);
+                tryVerify(() => {
+                    const top = item.mapToItem(window, 0, 0).y;
+                    return item.visible && top >= 0 && top + item.height <= window.height;
+                }, 5000, name);
+            }
+        }
+
         function test_switchesByKeyboardAndAnywhereInTheRow() {
             const toggle = part("settings.adjustmentKind.longLunch");
             toggle.forceActiveFocus(Qt.TabFocusReason);
