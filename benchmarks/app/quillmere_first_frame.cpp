@@ -9,6 +9,7 @@
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 #include <QtQuickControls2/QQuickStyle>
+#include <QtWidgets/QApplication>
 
 #include <cstdlib>
 
@@ -36,7 +37,7 @@ QString shownBalance(const QQuickWindow& window) {
 
 int main(int argc, char** argv) {
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     const QString balance = application.arguments().value(1);
     quillmere::QuillmereMacApp app(QDBusConnection::sessionBus());
     if (!app.show()) {
