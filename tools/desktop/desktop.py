@@ -20,6 +20,10 @@ class Desktop(Session):
         super().__init__(**environment)
         self._size = (width, height)
 
+    def connect(self):
+        """Another connection to the session bus, as a program of its own has one."""
+        return self._connect(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+
     def screen(self):
         return picture.read_screen(self.home / "Xvfb_screen0")
 
