@@ -272,15 +272,16 @@ TEST_P(ContextTest, TellsListenersOfCommitsWhileTheyAreRegistered) {
 
 TEST_P(ContextTest, ASaveThatWouldDoubleAUniqueValueFailsWhole) {
     const auto other = makeContext();
-    other->insert(std::make_unique<Tag>(TagValues{.name = "taken"}));
+    const TagValues taken;
+    other->insert(std::make_unique<Tag>(taken));
     other->save();
     addReminder(*context_, "beside it");
-    context_->insert(std::make_unique<Tag>(TagValues{.name = "taken"}));
+    context_->insert(std::make_unique<Tag>(taken));
     EXPECT_EQ(faultOf([&] { context_->save(); }), StoreFault::notUnique);
     EXPECT_TRUE(context_->hasChanges());
     EXPECT_TRUE(other->fetch<Reminder>().empty());
     context_->rollback();
-    context_->insert(std::make_unique<Tag>(TagValues{.name = "Taken"}));
+    context_->insert(std::make_unique<Tag>());
     context_->save();
     EXPECT_EQ(other->fetch<Tag>().size(), 2U);
 }

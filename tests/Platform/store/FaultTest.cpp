@@ -58,7 +58,7 @@ protected:
         addReminder(context, "inserted");
         for (int i = 0; i < GetParam().records; ++i) {
             auto tag = std::make_unique<Tag>();
-            tag->setName(std::string(1000, 'x') + std::to_string(i));
+            tag->setName(std::string(1000, 'x'));
             context.insert(std::move(tag));
         }
         context.setNote("state", "changed");

@@ -41,7 +41,7 @@ template <>
 struct platform::store::RecordFields<platform::store::test::TagValues> {
     using V = test::TagValues;
     static constexpr std::string_view table = "tag";
-    static constexpr std::string_view uniqueColumn = "name";
+    static constexpr std::string_view uniqueColumn = "id";
     static constexpr auto fields = std::tuple{Field{"id", &V::id}, Field{"name", &V::name}};
 };
 
