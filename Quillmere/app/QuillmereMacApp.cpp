@@ -5,12 +5,14 @@
 #include "QuillmereKit/records/AppConstants.h"
 #include "QuillmereKit/widget/WidgetSnapshotStore.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QSocketNotifier>
-#include <QtCore/QTimer>
+#include <QtCore/QThreadPool>
 #include <QtGui/QDesktopServices>
+#include <QtGui/QFontDatabase>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIcon>
-#include <QtQuick/QQuickWindow>
+#include <QtQml/QQmlComponent>
 
 #include <filesystem>
 
@@ -25,6 +27,12 @@ const QString deepLinkScheme = QStringLiteral("quillmere");
 
 StoreLocations locationsIn(const platform::UserFolders& folders) {
     return {folders.data() / "dev.vantor.quillmere", folders.data() / "group.dev.vantor.quillmere"};
+}
+
+// The first text needs the list of the system's fonts, which is long in the making: meanwhile the
+// program gets on.
+void listFonts() {
+    QThreadPool::globalInstance()->start([] { (void)QFontDatabase::hasFamily(QString()); });
 }
 
 } // namespace
@@ -57,10 +65,14 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
                                MainSceneModel::Application{appState_, routes_, preferences_,
                                                            prototype_, settingsServices()});
                        }),
-      settingsWindow_(engine_, windows(), [this](StoreSession& session) {
-          return std::make_unique<SettingsViewModel>(session, settingsServices());
-      }),
+      settingsWindow_(engine_, windows(),
+                      [this](StoreSession& session) {
+                          return std::make_unique<SettingsViewModel>(session, settingsServices());
+                      }),
       keeper_(delegate_, [this] { return !menuBarExtra_ || menuBarExtra_->isMissing(); }) {
+    listFonts();
+    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    connect(&engine_, &QQmlEngine::quit, qGuiApp, &QGuiApplication::quit, Qt::QueuedConnection);
     QDesktopServices::setUrlHandler(deepLinkScheme, this, "open");
     connect(&keeper_, &WindowKeeper::mainWindowRequested, this, [this] { raise(QString()); });
     connect(&keeper_, &WindowKeeper::quitRequested, qGuiApp, &QGuiApplication::quit);
@@ -76,22 +88,18 @@ QuillmereMacApp::~QuillmereMacApp() {
 }
 
 bool QuillmereMacApp::show() {
-    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine_.setInitialProperties(
-        {{QStringLiteral("model"), QVariant::fromValue(&mainWindowModel_)}});
+    QQmlComponent component(&engine_,
+                            QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/app/MainWindow.qml")));
     desktop_.waitForFirstAnswer();
-    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/app/MainWindow.qml")));
-    if (mainWindow() == nullptr) {
+    window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
+        {{QStringLiteral("model"), QVariant::fromValue(&mainWindowModel_)}})));
+    if (window_ == nullptr) {
+        qWarning().noquote() << component.errorString();
         return false;
     }
-    keeper_.keep(*mainWindow());
-    connect(mainWindow(), &QQuickWindow::frameSwapped, this, &QuillmereMacApp::onFirstFrame,
-            Qt::SingleShotConnection);
-    // Drawn after the first frame; only window managers that know no desktop files ask for it.
-    QTimer::singleShot(0, this, [this] {
-        QGuiApplication::setWindowIcon(QIcon(windowIcon));
-        mainWindow()->setIcon(QGuiApplication::windowIcon());
-    });
+    keeper_.keep(*window_);
+    connect(window_.get(), &QQuickWindow::frameSwapped, this, &QuillmereMacApp::onFirstFrame,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     return true;
 }
 
@@ -118,8 +126,11 @@ void QuillmereMacApp::raise(const QString& token) {
     qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
-// The item is no part of what the user waits for.
+// What the user does not wait for. Only window managers that know no desktop files ask for the
+// icon.
 void QuillmereMacApp::onFirstFrame() {
+    QGuiApplication::setWindowIcon(QIcon(windowIcon));
+    window_->setIcon(QGuiApplication::windowIcon());
     menuBarExtra_ = std::make_unique<MenuBarExtra>(bus_, storage_, preferencesFollower_);
     connect(menuBarExtra_.get(), &MenuBarExtra::changed, &keeper_, &WindowKeeper::check);
     connect(menuBarExtra_.get(), &MenuBarExtra::appeared, this, &QuillmereMacApp::finishStart);
@@ -161,11 +172,6 @@ SettingsViewModel::Services QuillmereMacApp::settingsServices() {
 WidgetPublisher QuillmereMacApp::widgetPublisher() {
     return {WidgetSnapshotStore::chosenDefaults(entitlements_, &suite_, preferences_),
             widgetCenter_};
-}
-
-QQuickWindow* QuillmereMacApp::mainWindow() const {
-    const QObjectList roots = engine_.rootObjects();
-    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(roots.first());
 }
 
 } // namespace quillmere

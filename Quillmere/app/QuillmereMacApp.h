@@ -24,11 +24,10 @@
 #include <QtCore/QObject>
 #include <QtCore/QUrl>
 #include <QtDBus/QDBusConnection>
-#include <QtQml/QQmlApplicationEngine>
+#include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickWindow>
 
 #include <memory>
-
-class QQuickWindow;
 
 namespace quillmere {
 
@@ -57,7 +56,7 @@ private:
     [[nodiscard]] WindowModel::Application windows();
     [[nodiscard]] SettingsViewModel::Services settingsServices();
     [[nodiscard]] WidgetPublisher widgetPublisher();
-    [[nodiscard]] QQuickWindow* mainWindow() const;
+    [[nodiscard]] QQuickWindow* mainWindow() const { return window_.get(); }
 
     QDBusConnection bus_;
     platform::SystemLogSink log_;
@@ -80,7 +79,8 @@ private:
     RouteSelection routes_;
     QuillmereMacAppDelegate delegate_;
     WindowModel mainWindowModel_;
-    QQmlApplicationEngine engine_;
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickWindow> window_; ///< null until shown
     SettingsWindow settingsWindow_;
     std::unique_ptr<MenuBarExtra> menuBarExtra_; ///< null until the first frame
     WindowKeeper keeper_;
