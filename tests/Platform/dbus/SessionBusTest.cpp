@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -73,7 +74,11 @@ protected:
                                     folder_.string();
         const std::unique_ptr<FILE, int (*)(FILE*)> daemon(::popen(command.c_str(), "r"), ::pclose);
         std::array<char, 300> address{};
-        ASSERT_EQ(std::fscanf(daemon.get(), "%299s %d", address.data(), &daemon_), 2);
+        std::array<char, 30> process{};
+        ASSERT_TRUE(std::fgets(address.data(), address.size(), daemon.get()));
+        ASSERT_TRUE(std::fgets(process.data(), process.size(), daemon.get()));
+        address.at(std::strcspn(address.data(), "\n")) = '\0';
+        daemon_ = std::stoi(process.data());
         ::setenv("DBUS_SESSION_BUS_ADDRESS", address.data(), 1);
     }
 
