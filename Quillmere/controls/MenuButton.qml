@@ -2,11 +2,14 @@ import QtQuick
 import Quillmere.controls
 import Quillmere.theme
 
-// Quiet text with a chevron that opens `menu` below itself.
+// Quiet text with a chevron that opens a menu below itself: a PopupMenu that is made of `menuSource`,
+// with this as its `button`, when it is first opened.
 ButtonBase {
     id: root
 
-    property PopupMenu menu: null
+    required property url menuSource
+
+    property var menu: null
 
     topPadding: 4
     bottomPadding: 4
@@ -16,7 +19,11 @@ ButtonBase {
     font: Theme.captionMedium
     Accessible.role: Accessible.ButtonMenu
 
-    onClicked: root.menu.openUnder(root)
+    onClicked: {
+        if (root.menu === null)
+            root.menu = Qt.createComponent(root.menuSource).createObject(root, { button: root });
+        root.menu.openUnder(root);
+    }
     Keys.onDownPressed: root.clicked()
 
     background: Rectangle {

@@ -46,7 +46,7 @@ FocusScope {
             width: parent.width
             onAddChosen: root.model.addTime()
             onTakeChosen: root.model.takeFlexTime()
-            onGuideChosen: guide.open()
+            onGuideChosen: guide.source = "GuideSheet.qml"
         }
 
         RecentActivitySection {
@@ -70,60 +70,36 @@ FocusScope {
         target: root.model
 
         function onActiveComposerChanged() {
-            if (root.model.activeComposer === null)
-                return;
-            form.setSource("qrc:/qt/qml/Quillmere/composer/TransactionComposerView.qml", {
-                model: root.model.activeComposer,
-                focus: true
-            });
-            composer.open();
+            if (root.model.activeComposer !== null)
+                composer.setSource("ComposerSheet.qml", { model: root.model.activeComposer });
         }
+    }
+
+    // Sheets are made when they are opened. Before the form's model goes, its view is gone.
+    Loader {
+        id: composer
     }
 
     Connections {
-        target: root.model.activeComposer
+        target: composer.item
+        ignoreUnknownSignals: true
 
-        function onFinished() {
-            composer.close();
-        }
-    }
-
-    Sheet {
-        id: composer
-
-        // Before the form's model goes, its view is gone.
-        onClosed: {
-            form.source = "";
+        function onClosed() {
+            composer.source = "";
             root.model.closeComposer();
         }
-
-        Loader {
-            id: form
-
-            anchors.fill: parent
-            focus: true
-        }
     }
 
-    Sheet {
+    Loader {
         id: guide
+    }
 
-        Loader {
-            id: guideView
+    Connections {
+        target: guide.item
+        ignoreUnknownSignals: true
 
-            anchors.fill: parent
-            active: guide.visible
-            focus: true
-            source: "TimeBankGuideView.qml"
-            onLoaded: (item as Item).focus = true
-        }
-
-        Connections {
-            target: guideView.item as TimeBankGuideView
-
-            function onDone() {
-                guide.close();
-            }
+        function onClosed() {
+            guide.source = "";
         }
     }
 }

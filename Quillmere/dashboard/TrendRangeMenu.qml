@@ -1,12 +1,8 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Quillmere.controls
 
 // The choice of how far the balance history reaches back.
 MenuButton {
-    id: root
-
     required property list<string> titles
     required property int currentIndex
 
@@ -14,23 +10,5 @@ MenuButton {
 
     text: qsTr("Balance history")
     Accessible.name: qsTr("Balance history range")
-
-    menu: PopupMenu {
-        id: ranges
-
-        Instantiator {
-            model: root.titles
-            onObjectAdded: (index, object) => ranges.insertItem(index, object as PopupMenuItem)
-            onObjectRemoved: (index, object) => ranges.removeItem(object as PopupMenuItem)
-
-            delegate: PopupMenuItem {
-                required property int index
-                required property string modelData
-
-                text: modelData
-                checked: index === root.currentIndex
-                onTriggered: root.chosen(index)
-            }
-        }
-    }
+    menuSource: Qt.resolvedUrl("TrendRangePopup.qml")
 }
