@@ -13,7 +13,7 @@ ModalPanel {
 
     required property BackgroundWork work
 
-    readonly property T.ApplicationWindow window: root.parent.Window.window as T.ApplicationWindow
+    readonly property T.ApplicationWindow window: root.parent?.Window.window as T.ApplicationWindow
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding

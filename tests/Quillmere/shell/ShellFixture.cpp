@@ -42,6 +42,12 @@ AppStorageController* ShellFixture::storageWithout(const QStringList& failing) {
     return storage_.get();
 }
 
+void ShellFixture::startWork() {
+    appState().work()->start(
+        BackgroundWork::Kind::writing, "Working…", [this] { workEnds_.acquire(); },
+        [](const std::exception* /*problem*/) {});
+}
+
 QString ShellFixture::storedRoute() {
     return QString::fromStdString(preferences().string("main.selectedRoute").value_or(""));
 }

@@ -8,6 +8,7 @@
 #include "tests/Quillmere/support/StoreFixture.h"
 #include "tests/Quillmere/widget/CountingWidgetCenter.h"
 
+#include <QtCore/QSemaphore>
 #include <QtGui/QDesktopServices>
 
 #include <memory>
@@ -34,8 +35,12 @@ public:
     /// Storage whose attempts named in `failing` fail ("cloud", "local", "memory").
     Q_INVOKABLE quillmere::AppStorageController* storageWithout(const QStringList& failing);
     Q_INVOKABLE QString storedRoute();
+    /// Starts work that writes and lasts until `endWork`.
+    Q_INVOKABLE void startWork();
+    Q_INVOKABLE void endWork() { workEnds_.release(); }
 
 private:
+    QSemaphore workEnds_;
     platform::SystemClock systemClock_;
     TimeFollower systemTime_{systemClock_};
     FakeStoreOpener opener_;
