@@ -27,11 +27,13 @@ AppRootContainer {
     }
 
     // The frame has a place for it; before there is a frame it stands alone.
-    ApplicationMenuButton {
+    Loader {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: Theme.spaceS
-        visible: root.scene.gate.content !== OnboardingGateViewModel.Screens
-        commands: root.commands
+        active: root.scene.gate.content !== OnboardingGateViewModel.Screens
+        sourceComponent: ApplicationMenuButton {
+            commands: root.commands // qmllint disable unqualified
+        }
     }
 }

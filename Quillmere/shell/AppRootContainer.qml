@@ -44,11 +44,32 @@ FocusScope {
         focus: true
     }
 
-    WorkPanel {
-        work: root.appState.work
+    // What seldom shows is made when it first does.
+    Loader {
+        id: workPanel
+
+        readonly property bool wanted: root.appState.work.isHoldingInput || root.appState.work.isShown
+
+        function make() {
+            if (workPanel.wanted && workPanel.status === Loader.Null)
+                workPanel.setSource("WorkPanel.qml", { work: root.appState.work });
+        }
+
+        onWantedChanged: workPanel.make()
+        Component.onCompleted: workPanel.make()
     }
 
-    IssueAlert {
-        appState: root.appState
+    Loader {
+        id: issueAlert
+
+        readonly property bool wanted: root.appState.hasIssue
+
+        function make() {
+            if (issueAlert.wanted && issueAlert.status === Loader.Null)
+                issueAlert.setSource("IssueAlert.qml", { appState: root.appState });
+        }
+
+        onWantedChanged: issueAlert.make()
+        Component.onCompleted: issueAlert.make()
     }
 }
