@@ -107,6 +107,21 @@ Item {
                 tryVerify(() => Fixture.widgetRefresh.isActive);
             }
 
+            function test_nothingCanBeUsedWhileRecordsAreWritten() {
+                const item = createTemporaryObject(container, testCase, { storage: Fixture.storageWithout([]) });
+                const content = findChild(item, "content");
+                window.requestActivate();
+                tryCompare(window, "active", true);
+                content.forceActiveFocus();
+                Fixture.startWork();
+                tryCompare(content, "enabled", false);
+                verify(!window.T.Overlay.overlay.enabled);
+                Fixture.endWork();
+                tryCompare(content, "enabled", true);
+                verify(window.T.Overlay.overlay.enabled);
+                tryVerify(() => content.activeFocus, 5000, "the keyboard is back");
+            }
+
             function test_issueRaisedBeforeThereIsAContainerWaitsForIt() {
                 Fixture.report("Earlier", "Message.");
                 const item = createTemporaryObject(container, testCase, { storage: Fixture.storageWithout([]) });
