@@ -74,13 +74,8 @@ class Label(TrayStory):
         self.assertLessEqual({16, 22, 24, 32, 44, 48}, set(seen[0]))
         self.prefer(menuBarDisplayMode="unknown")
         program.await_true(lambda: item.pictures == seen[0], "the icon is the usual one")
-
-    def test_the_preference_shows_and_hides_it(self):
-        program, _ = self.start_in_tray()
         self.prefer(showMenuBarExtra=False)
         program.await_true(self.tray.is_empty, "the item is gone")
-        self.prefer(showMenuBarExtra=True)
-        self.tray.item()
 
 
 class Closing(TrayStory):
@@ -102,12 +97,6 @@ class Closing(TrayStory):
         self.await_hidden(program)
         self.tray.item().choose("Quit")
         self.assertEqual(program.await_exit(), 0)
-
-    def test_without_the_preference_closing_ends_the_program(self):
-        program, _ = self.start_in_tray()
-        self.close_window(program)
-        self.assertEqual(program.await_exit(), 0)
-        self.assertTrue(self.tray.is_empty())
 
     def test_without_a_tray_the_window_stays(self):
         self.prefer(closeWindowToMenuBar=True)

@@ -11,10 +11,7 @@ MENU = "com.canonical.dbusmenu"
 CALL_LIMIT_MILLISECONDS = 10_000
 INTERFACE = f"""<node><interface name="{WATCHER}">
   <method name="RegisterStatusNotifierItem"><arg type="s" direction="in"/></method>
-  <method name="RegisterStatusNotifierHost"><arg type="s" direction="in"/></method>
-  <property name="RegisteredStatusNotifierItems" type="as" access="read"/>
   <property name="IsStatusNotifierHostRegistered" type="b" access="read"/>
-  <property name="ProtocolVersion" type="i" access="read"/>
   <signal name="StatusNotifierHostRegistered"/>
   <signal name="StatusNotifierHostUnregistered"/>
 </interface></node>"""
@@ -72,13 +69,12 @@ class Tray:
         self._shown = False
         self._context = GLib.MainContext()
         self._loop = GLib.MainLoop(self._context)
+        self._ready = threading.Event()
         self._thread = threading.Thread(target=self._run, daemon=True)
 
     def __enter__(self):
-        ready = threading.Event()
-        self._ready = ready
         self._thread.start()
-        ready.wait()
+        self._ready.wait()
         self._name("RequestName", GLib.Variant("(su)", (WATCHER, 0)))
         return self
 
@@ -128,16 +124,13 @@ class Tray:
         self._loop.run()
 
     def _on_call(self, bus, sender, path, interface, method, arguments, invocation):
-        if method == "RegisterStatusNotifierItem":
-            # A path of the caller, or the name of its service.
-            name = arguments.unpack()[0]
-            self._items[sender] = name if name.startswith("/") else "/StatusNotifierItem"
+        # A path of the caller, or the name of its service.
+        name = arguments.unpack()[0]
+        self._items[sender] = name if name.startswith("/") else "/StatusNotifierItem"
         invocation.return_value(None)
 
     def _on_get(self, bus, sender, path, interface, name):
-        return {"IsStatusNotifierHostRegistered": GLib.Variant("b", self._shown),
-                "RegisteredStatusNotifierItems": GLib.Variant("as", list(self._items)),
-                "ProtocolVersion": GLib.Variant("i", 0)}[name]
+        return GLib.Variant("b", self._shown)
 
     def _on_owner_changed(self, bus, sender, path, interface, signal, arguments):
         name, _, new_owner = arguments.unpack()

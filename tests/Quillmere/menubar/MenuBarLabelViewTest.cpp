@@ -60,20 +60,6 @@ TEST(MenuBarLabelViewTest, ShowsWhatTheModeSaysAtEverySizeOfATray) {
     }
 }
 
-// Two balances that look the same would make one of them unreadable.
-TEST(MenuBarLabelViewTest, TellsEveryDigitApartAtTheSmallestSize) {
-    std::vector<QImage> icons;
-    for (char digit = '0'; digit <= '9'; ++digit) {
-        icons.push_back(drawn(Mode::balanceOnly, (std::string("+1") + digit + ":00").c_str(), 16));
-    }
-    icons.push_back(drawn(Mode::balanceOnly, "\u221210:00", 16));
-    for (std::size_t i = 0; i < icons.size(); ++i) {
-        for (std::size_t j = 0; j < i; ++j) {
-            EXPECT_NE(icons[i], icons[j]) << i << " and " << j;
-        }
-    }
-}
-
 TEST(MenuBarLabelViewTest, KeepsFiguresOfAnyLengthInside) {
     for (const int side : sides) {
         for (const Mode mode : {Mode::logoAndBalance, Mode::balanceOnly}) {
