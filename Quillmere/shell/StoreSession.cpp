@@ -30,7 +30,7 @@ using platform::store::Subscription;
 constexpr auto pollInterval = 1s;
 constexpr auto readAgainAfter = 5s;
 constexpr auto verifyAfter = 2s; // leaves processors and disk to the first frames
-constexpr double sumIsFreshSeconds = 1;
+constexpr double sumIsFreshSeconds = 10;
 
 /// The minutes of the changes dated up to a moment, of one state of the store.
 struct StoredMinutes {
