@@ -1,7 +1,6 @@
 #include "Quillmere/app/ApplicationOnDemand.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QTimer>
 
 #include <chrono>
 #include <cstdlib>
@@ -24,21 +23,25 @@ ApplicationOnDemand::ApplicationOnDemand(InstanceService& instance, const QDBusC
 
 void ApplicationOnDemand::endWhenNotNeeded() {
     connect(&instance_, &InstanceService::performed, this, &ApplicationOnDemand::endIfNotNeeded);
-    QTimer::singleShot(firstCallLimit, this, &ApplicationOnDemand::endIfNotNeeded);
+    connect(&firstCallTimer_, &QTimer::timeout, this, &ApplicationOnDemand::endIfNotNeeded);
+    firstCallTimer_.setSingleShot(true);
+    firstCallTimer_.start(firstCallLimit);
 }
 
 void ApplicationOnDemand::open(const QUrl& url) {
     application().open(url);
 }
 
-void ApplicationOnDemand::activate(const QString& token) {
+bool ApplicationOnDemand::activate(const QString& token) {
     const bool wasShown = std::exchange(isShown_, true);
     if (!wasShown && !application().show()) {
-        QMetaObject::invokeMethod(
-            qApp, [] { QCoreApplication::exit(EXIT_FAILURE); }, Qt::QueuedConnection);
-    } else if (wasShown || !token.isEmpty()) {
+        QCoreApplication::exit(EXIT_FAILURE);
+        return false;
+    }
+    if (wasShown || !token.isEmpty()) {
         application().raise(token);
     }
+    return true;
 }
 
 QuillmereMacApp& ApplicationOnDemand::application() {

@@ -4,6 +4,7 @@
 #include "Quillmere/app/QuillmereMacApp.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 #include <QtCore/QUrl>
 #include <QtDBus/QDBusConnection>
 
@@ -27,8 +28,9 @@ public:
 public slots:
     /// Takes a deep link, which shows when the application is brought forward.
     void open(const QUrl& url);
-    /// Shows the main window or brings it forward. Ends the program, which failed, when it cannot.
-    void activate(const QString& token);
+    /// Shows the main window or brings it forward. When it cannot it answers false, and ends a
+    /// program whose event loop runs.
+    bool activate(const QString& token);
 
 private:
     QuillmereMacApp& application();
@@ -37,6 +39,7 @@ private:
 
     InstanceService& instance_;
     QDBusConnection bus_;
+    QTimer firstCallTimer_;
     std::optional<QuillmereMacApp> application_;
     bool isShown_ = false;
 };

@@ -75,7 +75,9 @@ int main(int argc, char** argv) {
         for (const QUrl& url : line.urls) {
             demand.open(url);
         }
-        demand.activate(QString());
+        if (!demand.activate(QString())) {
+            return EXIT_FAILURE;
+        }
     }
     return QGuiApplication::exec();
 }
