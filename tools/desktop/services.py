@@ -14,15 +14,17 @@ BUS = ("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus")
 
 
 class Service:
-    """`interface` at `path` of the program, which the bus knows by `name` from now on."""
+    """`interface` at `path` of the program, which the bus knows by `name` from now on; without a
+    program, of the one that is installed."""
 
-    def __init__(self, session, name, path, interface, program):
+    def __init__(self, session, name, path, interface, program=None):
         self._bus = session.bus
         self._target = (name, path, interface)
         self.name = name
-        text = f"[D-BUS Service]\nName={name}\nExec={program}\n"
-        (session.services / f"{name}.service").write_text(text)
-        self._ask(BUS, "ReloadConfig")
+        if program:
+            text = f"[D-BUS Service]\nName={name}\nExec={program}\n"
+            (session.services / f"{name}.service").write_text(text)
+            self._ask(BUS, "ReloadConfig")
 
     def call(self, method, signature, *arguments):
         """The answer as a tuple; errors are `GLib.Error`."""
