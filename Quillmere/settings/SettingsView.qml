@@ -11,6 +11,12 @@ FocusScope {
 
     property bool retryFailed: false
 
+    // Again as the form gets its size.
+    function revealRetry(): void {
+        if (root.retryFailed && sync.retryButton.activeFocus)
+            page.reveal(sync);
+    }
+
     objectName: "settings.screen"
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Settings")
@@ -41,6 +47,7 @@ FocusScope {
         maximumWidth: 620
         topPadding: Theme.spaceL
         spacing: Theme.spaceXL
+        onContentHeightChanged: root.revealRetry()
 
         AppearanceSection {
             width: parent.width
@@ -62,10 +69,7 @@ FocusScope {
 
             width: parent.width
             model: root.model
-            onHeightChanged: {
-                if (root.retryFailed)
-                    page.reveal(sync);
-            }
+            onHeightChanged: root.revealRetry()
         }
 
         HelpSection {

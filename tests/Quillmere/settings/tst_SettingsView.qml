@@ -78,6 +78,7 @@ Item {
 
         function test_tabFollowsReadingOrder() {
             add("Gym");
+            waitForRendering(shown); // lays the new row out
             part("settings.appearance").forceActiveFocus(Qt.TabFocusReason);
             for (const name of ["settings.appearance", "settings.adjustmentKind.appointment",
                 "settings.adjustmentKind.personalErrands", "settings.adjustmentKind.longLunch",
