@@ -69,6 +69,7 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
                       [this](StoreSession& session) {
                           return std::make_unique<SettingsViewModel>(session, settingsServices());
                       }),
+      menuBarPanel_(engine_, windows()),
       keeper_(delegate_, [this] { return !menuBarExtra_ || menuBarExtra_->isMissing(); }) {
     listFonts();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
@@ -78,6 +79,11 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
     connect(&keeper_, &WindowKeeper::quitRequested, qGuiApp, &QGuiApplication::quit);
     connect(&mainWindowModel_, &WindowModel::settingsRequested, &settingsWindow_,
             &SettingsWindow::open);
+    connect(&menuBarPanel_, &MenuBarPanel::settingsRequested, &settingsWindow_,
+            &SettingsWindow::open);
+    connect(&menuBarPanel_, &MenuBarPanel::mainWindowRequested, this, [this] { raise(QString()); });
+    connect(&menuBarPanel_, &MenuBarPanel::quitRequested, qGuiApp, &QGuiApplication::quit,
+            Qt::QueuedConnection);
     connect(&preferencesFollower_, &PreferencesFollower::changed, &appearance_,
             &AppearanceModel::changed);
     followPreferences();
@@ -134,6 +140,10 @@ void QuillmereMacApp::onFirstFrame() {
     menuBarExtra_ = std::make_unique<MenuBarExtra>(bus_, storage_, preferencesFollower_);
     connect(menuBarExtra_.get(), &MenuBarExtra::changed, &keeper_, &WindowKeeper::check);
     connect(menuBarExtra_.get(), &MenuBarExtra::appeared, this, &QuillmereMacApp::finishStart);
+    connect(menuBarExtra_.get(), &MenuBarExtra::activated, &menuBarPanel_, &MenuBarPanel::toggle);
+    connect(menuBarExtra_.get(), &MenuBarExtra::composerRequested, &menuBarPanel_,
+            &MenuBarPanel::open);
+    connect(menuBarExtra_.get(), &MenuBarExtra::removed, &menuBarPanel_, &MenuBarPanel::close);
     connect(menuBarExtra_.get(), &MenuBarExtra::mainWindowRequested, this,
             [this] { raise(QString()); });
     connect(menuBarExtra_.get(), &MenuBarExtra::quitRequested, qGuiApp, &QGuiApplication::quit);

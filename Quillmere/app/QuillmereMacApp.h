@@ -8,6 +8,7 @@
 #include "Platform/preferences/FilePreferences.h"
 #include "Quillmere/app/MainSceneModel.h"
 #include "Quillmere/app/MenuBarExtra.h"
+#include "Quillmere/app/MenuBarPanel.h"
 #include "Quillmere/app/SettingsWindow.h"
 #include "Quillmere/app/TerminationSignals.h"
 #include "Quillmere/app/WindowKeeper.h"
@@ -82,6 +83,7 @@ private:
     QQmlEngine engine_;
     std::unique_ptr<QQuickWindow> window_; ///< null until shown
     SettingsWindow settingsWindow_;
+    MenuBarPanel menuBarPanel_;
     std::unique_ptr<MenuBarExtra> menuBarExtra_; ///< null until the first frame
     WindowKeeper keeper_;
     TerminationSignals terminationSignals_;

@@ -8,6 +8,8 @@ Loader {
 
     required property WindowModel model
     required property ApplicationCommands commands
+    // What stands here without a store; it is given model and commands.
+    property url unavailable: "UnavailableContent.qml"
 
     signal sceneRequested()
 
@@ -21,7 +23,7 @@ Loader {
             root.source = "qrc:/qt/qml/Quillmere/shell/StorageReconnectView.qml";
             break;
         case WindowModel.Unavailable:
-            root.setSource("UnavailableContent.qml", { model: model, commands: commands });
+            root.setSource(root.unavailable, { model: model, commands: commands });
             break;
         }
     }

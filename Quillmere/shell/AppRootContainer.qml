@@ -8,6 +8,8 @@ import Quillmere.widget
 FocusScope {
     id: root
 
+    // How much of the height the banner takes.
+    readonly property real bannerHeight: banner.height
     required property AppState appState
     required property AppStorageController storage
     required property WidgetRefreshObserverViewModel widgetRefresh

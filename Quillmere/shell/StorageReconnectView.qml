@@ -6,11 +6,16 @@ import Quillmere.theme
 Item {
     id: root
 
+    // What it asks for where the window is as large as its content.
+    implicitWidth: 350
+    implicitHeight: column.implicitHeight + 2 * 32
     objectName: "storage.retrying"
     Accessible.role: Accessible.Pane
     Accessible.name: headline.text
 
     Column {
+        id: column
+
         anchors.centerIn: parent
         width: Math.min(parent.width - 2 * 32, 480)
         spacing: 14

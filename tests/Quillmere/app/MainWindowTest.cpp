@@ -6,6 +6,8 @@
 #include "Quillmere/shell/PreferencesFollower.h"
 #include "Quillmere/shell/TimeFollower.h"
 #include "tests/Quillmere/shell/FakeStoreOpener.h"
+#include "tests/Quillmere/shell/NoDesktop.h"
+#include "tests/Quillmere/support/FindItem.h"
 #include "tests/Quillmere/widget/CountingWidgetCenter.h"
 
 #include <QtCore/QTemporaryDir>
@@ -22,26 +24,6 @@
 
 namespace quillmere {
 namespace {
-
-class NoDesktop final : public DesktopSettings {
-public:
-    [[nodiscard]] DesktopLook look() const override {
-        return {.prefersDark = {}, .highContrast = false, .reducedMotion = true};
-    }
-};
-
-// A Loader's item is a visual child only.
-const QQuickItem* findItem(const QQuickItem& item, const QString& objectName) {
-    if (item.objectName() == objectName && item.isVisible()) {
-        return &item;
-    }
-    for (const QQuickItem* child : item.childItems()) {
-        if (const QQuickItem* found = findItem(*child, objectName)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
 
 /// The window of the program on stores in memory.
 class MainWindowTest : public testing::Test {
