@@ -78,6 +78,20 @@ class Label(TrayStory):
         program.await_true(self.tray.is_empty, "the item is gone")
 
 
+class Panel(TrayStory):
+    def test_an_activation_opens_and_closes_it_and_the_menu_opens_its_forms(self):
+        program, item = self.start_in_tray()
+        item.activate()
+        program.await_element("button", "Open app")
+        item.activate()
+        program.await_absence("button", "Open app")
+        item.choose("Take flex time")
+        program.await_element("text", "Amount in hours")
+        program.fill("2")
+        program.save("take")
+        self.await_tooltip(program, "minus 2 hours, 0 minutes")
+
+
 class Closing(TrayStory):
     def test_the_window_hides_and_comes_back(self):
         program, item = self.start_in_tray(closeWindowToMenuBar=True)
