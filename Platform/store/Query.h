@@ -26,8 +26,11 @@ public:
 
     template <auto Member>
     Filter& where(Comparison comparison, FieldType<Member> value) {
-        conditions_.push_back(
-            {fieldIndex<Values, Member>(), comparison, FieldValue{std::move(value)}});
+        // Built in place: g++ 12 takes the moved temporary's value for uninitialised.
+        Condition& added = conditions_.emplace_back();
+        added.field = fieldIndex<Values, Member>();
+        added.comparison = comparison;
+        added.value.template emplace<FieldType<Member>>(std::move(value));
         tests_.push_back([](const Values& values, const Condition& condition) {
             return holds(values.*Member, condition.comparison,
                          std::get<FieldType<Member>>(condition.value));
