@@ -54,7 +54,7 @@ protected:
                                30'000);
     }
 
-    void setUp() {
+    void completeSetup() {
         panel();
         auto& context = storage_->session()->context();
         context.insert(TimeBankSettings::create(clock_)).setHasCompletedOnboarding(true);
@@ -102,7 +102,7 @@ TEST_F(MenuBarPanelTest, StandsInTheScreenAndLeadsToSetupFirst) {
 }
 
 TEST_F(MenuBarPanelTest, GrowsWithTheFormAndClosesAfterIt) {
-    setUp();
+    completeSetup();
     panel().open(TransactionComposerMode::take, icon);
     QQuickWindow& window = *panel().window();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -116,7 +116,7 @@ TEST_F(MenuBarPanelTest, GrowsWithTheFormAndClosesAfterIt) {
 }
 
 TEST_F(MenuBarPanelTest, IsGoneWithItsModelsWhenTheFocusLeavesIt) {
-    setUp();
+    completeSetup();
     bool isGone = false;
     const QObject* model = open().property("model").value<WindowModel*>()->scene();
     QObject::connect(model, &QObject::destroyed, [&isGone] { isGone = true; });
