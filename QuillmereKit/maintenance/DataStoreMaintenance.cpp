@@ -1,5 +1,6 @@
 #include "QuillmereKit/maintenance/DataStoreMaintenance.h"
 
+#include "QuillmereKit/maintenance/StoredBalance.h"
 #include "QuillmereKit/migration/ManualLedgerMigration.h"
 #include "QuillmereKit/records/ActionReceipt.h"
 #include "QuillmereKit/records/BalanceAdjustment.h"
@@ -23,6 +24,7 @@ void eraseAll(platform::store::Context& context) {
     context.removeAll<WorkSchedule>();
     context.removeAll<TimeBankSettings>();
     context.removeAll<ActionReceipt>();
+    StoredBalance::forget(context);
     context.save();
 }
 

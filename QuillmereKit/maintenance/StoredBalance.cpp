@@ -16,6 +16,8 @@ namespace {
 /// With more changes than these to count one by one, reading all is no slower by much.
 constexpr std::size_t mostListed = RepairMemory::worthRemembering;
 
+constexpr std::string_view noteName = "summedUp.changes";
+
 void add(std::int64_t& sum, std::int64_t minutes) {
     if (__builtin_add_overflow(sum, minutes, &sum)) {
         throw platform::store::StoreError(platform::store::StoreFault::misuse,
@@ -34,7 +36,11 @@ void add(StoredBalance::Figures& figures, const Change& change, Instant dayStart
 } // namespace
 
 StoredBalance::StoredBalance(platform::store::Context& context)
-    : context_(context), memory_(context, "summedUp.changes") {
+    : context_(context), memory_(context, noteName) {
+}
+
+void StoredBalance::forget(platform::store::Context& context) {
+    context.setNote(noteName, "");
 }
 
 StoredBalance::Figures StoredBalance::figures(Instant dayStart, Instant through) {
@@ -132,9 +138,14 @@ void StoredBalance::readAll(Instant dayStart, Instant through) {
 }
 
 void StoredBalance::remember() {
-    if (listed_.size() <= mostListed && !context_.hasChanges()) {
-        mark_.finding = noteWords();
+    if (listed_.size() > mostListed || context_.hasChanges()) {
+        return;
+    }
+    mark_.finding = noteWords();
+    try {
         memory_.finish(mark_, false, looked_);
+    } catch (const platform::store::StoreError&) {
+        context_.rollback(); // nothing but the note is pending
     }
 }
 

@@ -35,8 +35,12 @@ public:
     [[nodiscard]] Figures figures(platform::Instant dayStart, platform::Instant through);
 
     /// Notes and saves what the next sum can build on, if `figures` had to read many changes.
-    /// Leaves a context alone that has unsaved changes.
+    /// Leaves a context alone that has unsaved changes. A note that cannot be saved is done
+    /// without.
     void remember();
+
+    /// Empties the note with the next save: nothing of erased changes stays.
+    static void forget(platform::store::Context& context);
 
 private:
     struct Change {
