@@ -13,6 +13,7 @@ namespace {
 
 std::vector<RowKey> keysOf(const std::vector<BalanceAdjustment*>& markers) {
     std::vector<RowKey> keys;
+    keys.reserve(markers.size());
     for (const BalanceAdjustment* marker : markers) {
         keys.push_back(marker->key());
     }
