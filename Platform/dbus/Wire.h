@@ -30,8 +30,6 @@ struct FixedWire {
 };
 
 template <>
-struct Wire<std::uint8_t> : FixedWire<std::uint8_t, 'y'> {};
-template <>
 struct Wire<std::int32_t> : FixedWire<std::int32_t, 'i'> {};
 template <>
 struct Wire<std::uint32_t> : FixedWire<std::uint32_t, 'u'> {};
@@ -114,6 +112,6 @@ struct Wire<std::map<K, V>> {
 };
 
 /// What desktops call "a{sv}": named details of various types.
-using Details = std::map<std::string, std::variant<std::string, std::uint8_t>>;
+using Details = std::map<std::string, std::variant<std::string>>;
 
 } // namespace platform::dbus

@@ -78,7 +78,7 @@ int runShortcut(const std::string& id) {
 
 } // namespace
 
-int ActionProgram::run(const CommandLine& line) {
+int ActionProgram::run(const CommandLine& line) try {
     switch (line.task) {
     case CommandLine::Task::version:
         std::printf("quillmere-actions %s\n", versionText);
@@ -91,12 +91,10 @@ int ActionProgram::run(const CommandLine& line) {
     case CommandLine::Task::serve:
         break;
     }
-    try {
-        return serve();
-    } catch (const BusError& error) {
-        complain(error.what());
-        return EXIT_FAILURE;
-    }
+    return serve();
+} catch (const BusError& error) {
+    complain(error.what());
+    return EXIT_FAILURE;
 }
 
 } // namespace quillmere

@@ -27,7 +27,7 @@ constexpr std::int32_t shownAsLongAsUsual = -1;
 std::string ShortcutRunner::run(const std::string& id) {
     const auto* shortcut = QuillmereShortcuts::find(id);
     if (shortcut == nullptr) {
-        throw UnknownShortcut(id);
+        throw UnknownShortcut();
     }
     return perform(*shortcut);
 }

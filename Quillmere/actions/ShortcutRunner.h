@@ -13,8 +13,7 @@ namespace quillmere {
 /// There is no shortcut of that name. `what()` is a sentence.
 class UnknownShortcut final : public std::invalid_argument {
 public:
-    explicit UnknownShortcut(const std::string& id)
-        : std::invalid_argument("There is no shortcut \"" + id + "\".") {}
+    UnknownShortcut() : std::invalid_argument("There is no such shortcut.") {}
 };
 
 /// Performs the ready-made shortcuts and shows how each ended as a desktop notification (Desktop
