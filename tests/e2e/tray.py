@@ -1,6 +1,7 @@
 """The item in the tray: what it shows, what it does, and that the program is never out of reach."""
 import json
 import signal
+import time
 import unittest
 
 from story import Story
@@ -30,7 +31,11 @@ class TrayStory(Story):
         self.prefer(**preferences)
         self.tray.show()
         program = self.start_on_dashboard()
-        return program, self.tray.item()
+        item = self.tray.item()
+        # A quarter of a second after the item is there the program brings its window up, once.
+        over = time.monotonic() + 1
+        program.await_true(lambda: time.monotonic() > over, "the start is over")
+        return program, item
 
     def close_window(self, program):
         program.await_active()
