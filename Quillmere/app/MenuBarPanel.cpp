@@ -103,9 +103,13 @@ QQuickWindow* MenuBarPanel::make() {
          {QStringLiteral("panel"), QVariant::fromValue(this)}}));
     if (window != nullptr) {
         connect(window, &QWindow::visibleChanged, this, &MenuBarPanel::onVisibleChanged);
-        // Later: until then the focus may have come back.
-        connect(window, &QWindow::activeChanged, this, &MenuBarPanel::onActiveChanged,
-                Qt::QueuedConnection);
+        // Later: until then the focus may have come back, or another panel have been opened.
+        const auto follow = [this, window] {
+            if (window == window_) {
+                onActiveChanged();
+            }
+        };
+        connect(window, &QWindow::activeChanged, this, follow, Qt::QueuedConnection);
     }
     return window;
 }

@@ -35,6 +35,12 @@ TrayNotifierHost::TrayNotifierHost(QDBusConnection bus, QObject* parent)
 }
 
 void TrayNotifierHost::ask() {
+    // Qt answers nothing to a call that it cannot send.
+    if (!bus_.isConnected()) {
+        QMetaObject::invokeMethod(
+            this, [this] { take(false, false); }, Qt::QueuedConnection);
+        return;
+    }
     auto* call = new QDBusPendingCallWatcher(bus_.asyncCall(question()), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
         const QDBusPendingReply<QDBusVariant> reply = *call;
