@@ -38,7 +38,7 @@ public:
     Caller& operator=(const Caller&) = delete;
 
     Answer call(const char* method, const char* signature, std::int64_t number = 0) {
-        sd_bus_error error = SD_BUS_ERROR_NULL;
+        sd_bus_error error{};
         sd_bus_message* reply = nullptr;
         Answer answer;
         const int result = ::sd_bus_call_method(bus_, "test.Restless", "/test", "test.Interface",

@@ -2,13 +2,14 @@
 
 #include "Platform/preferences/MemoryPreferences.h"
 
-#include <QtCore/QEvent>
 #include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace quillmere {
 namespace {
@@ -103,9 +104,9 @@ TEST_F(WindowKeeperTest, APanelThatClosesOverAHiddenProgramDecidesNothing) {
 TEST_F(WindowKeeperTest, AKeptWindowDoesNotStandInTheWayOfQuitting) {
     closesToTray(true);
     isOutOfReach_ = true;
-    QEvent quit(QEvent::Quit);
-    QCoreApplication::sendEvent(qGuiApp, &quit);
-    EXPECT_FALSE(window_.isVisible());
+    QTimer::singleShot(0, &QCoreApplication::quit);
+    QTimer::singleShot(30'000, &window_, [] { QCoreApplication::exit(EXIT_FAILURE); });
+    EXPECT_EQ(QCoreApplication::exec(), EXIT_SUCCESS);
 }
 
 } // namespace
