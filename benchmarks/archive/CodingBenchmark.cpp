@@ -26,7 +26,7 @@ const std::string& largeDocument() {
 
 void limitSimdjsonParse(benchmark::State& state) {
     const std::string& text = largeDocument();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         simdjson::dom::parser parser;
         benchmark::DoNotOptimize(parser.parse(text).error());
     }
@@ -36,7 +36,7 @@ BENCHMARK(limitSimdjsonParse)->Unit(benchmark::kMillisecond);
 
 void decodeArchive(benchmark::State& state) {
     const std::string& text = largeDocument();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(TimeBankArchive::decodeJSON(text).recordCount());
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(text.size() * state.iterations()));
@@ -49,7 +49,7 @@ void writeText(Writer& writer, const std::string& text) {
 }
 
 void limitRapidJsonWrite(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         rapidjson::StringBuffer out;
         rapidjson::PrettyWriter writer(out);
         writer.SetIndent(' ', 2);
@@ -82,7 +82,7 @@ void limitRapidJsonWrite(benchmark::State& state) {
 BENCHMARK(limitRapidJsonWrite)->Unit(benchmark::kMillisecond);
 
 void encodeArchive(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(largeArchive().encodedJSON().size());
     }
 }
