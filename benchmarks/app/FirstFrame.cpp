@@ -53,8 +53,7 @@ void FirstFrame::onSwapped() {
     const double milliseconds = millisecondsSinceStart();
     std::printf("%.3f %d\n", milliseconds, residentKibibytes());
     std::fflush(stdout);
-    QMetaObject::invokeMethod(
-        qApp, [] { QCoreApplication::quit(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
 }
 
 } // namespace quillmere

@@ -38,7 +38,7 @@ QString shownBalance(const QQuickWindow& window) {
 int main(int argc, char** argv) {
     QQuickStyle::setStyle(QStringLiteral("Basic"));
     const QApplication application(argc, argv);
-    const QString balance = application.arguments().value(1);
+    const QString balance = QApplication::arguments().value(1);
     quillmere::QuillmereMacApp app(QDBusConnection::sessionBus());
     if (!app.show()) {
         return EXIT_FAILURE;

@@ -43,7 +43,7 @@ private:
 
 void merge(benchmark::State& state, const TimeBankArchive* present,
            const TimeBankArchive& archive) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         {
             NewStore store;

@@ -37,7 +37,7 @@ double columnSum(double through) {
 }
 
 void limitBalanceOverPackedColumns(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(columnSum(now.secondsSince1970));
     }
 }
@@ -53,7 +53,7 @@ void limitBalanceOverWholeStructs(benchmark::State& state) {
     for (const LedgerRow& row : rows()) {
         all.push_back({row.date.secondsSince1970, row.minutes, {}});
     }
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         double seconds = 0;
         for (const Whole& whole : all) {
             if (whole.date <= now.secondsSince1970) {
@@ -66,14 +66,14 @@ void limitBalanceOverWholeStructs(benchmark::State& state) {
 BENCHMARK(limitBalanceOverWholeStructs);
 
 void balanceNow(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(TimeBankCalculator::ledgerBalanceSeconds(rows(), 60, now));
     }
 }
 BENCHMARK(balanceNow);
 
 void limitTrendOf90Scans(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         for (int back = 89; back >= 0; --back) {
             benchmark::DoNotOptimize(columnSum(now.secondsSince1970 - back * secondsADay));
         }
@@ -83,7 +83,7 @@ BENCHMARK(limitTrendOf90Scans);
 
 void trendOf90Days(benchmark::State& state) {
     const platform::Calendar calendar = berlin();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(
             BalanceTrend::series(rows(), 60, BalanceTrendRange::quarter, now, calendar));
     }
@@ -93,7 +93,7 @@ BENCHMARK(trendOf90Days);
 void dayBalancesOfFiveYears(benchmark::State& state) {
     const platform::Calendar calendar = berlin();
     const platform::DateInterval fiveYears{now - 1825 * secondsADay, now};
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(
             TimeBankCalculator::ledgerDayBalances(rows(), fiveYears, calendar));
     }

@@ -58,7 +58,7 @@ const LargeStore& largeStore() {
 
 void limitScanOfAllRows(benchmark::State& state) {
     const auto context = largeStore().makeContext();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         std::int64_t minutes = 0;
         context->scan<BalanceAdjustment>(
             {}, [&](platform::store::RowKey, const auto& values) { minutes += values.minutes; });
@@ -69,7 +69,7 @@ BENCHMARK(limitScanOfAllRows)->Unit(benchmark::kMillisecond);
 
 void repairOfARepairedStore(benchmark::State& state) {
     const LargeStore& store = largeStore();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto context = store.makeContext();
         benchmark::DoNotOptimize(StorePreparation::prepare(*context).id());
     }
@@ -78,7 +78,7 @@ BENCHMARK(repairOfARepairedStore)->Unit(benchmark::kMillisecond);
 
 void recordOneChange(benchmark::State& state) {
     const auto context = largeStore().makeContext();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(TimeBankTransactionController::record(30, largeStore().now(),
                                                                        "note", "manual", *context));
     }
@@ -88,7 +88,7 @@ BENCHMARK(recordOneChange)->Unit(benchmark::kMillisecond);
 void widgetSnapshot(benchmark::State& state) {
     const LargeStore& store = largeStore();
     const auto context = store.makeContext();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(WidgetSnapshotBuilder::make(*context, store.now()));
     }
 }

@@ -18,7 +18,7 @@ namespace {
 using namespace benchmarks;
 
 const std::vector<LedgerRow>& oneMonth() {
-    static const std::vector<LedgerRow> shared = makeRows(27 * 86'400);
+    static const std::vector<LedgerRow> shared = makeRows(27 * 86'400UL);
     return shared;
 }
 
@@ -58,14 +58,14 @@ std::string linesOf(const Buckets& buckets) {
 
 void limitMonth(benchmark::State& state, const std::vector<LedgerRow>& rows) {
     const Columns columns(rows);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(bucketsOf(columns));
     }
 }
 
 void report(benchmark::State& state, const std::vector<LedgerRow>& rows) {
     const platform::Calendar calendar = berlin();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto interval = period(ReportGranularity::month, now, calendar);
         const auto days = TimeBankCalculator::ledgerDayBalances(rows, interval, calendar);
         benchmark::DoNotOptimize(
@@ -77,14 +77,14 @@ void report(benchmark::State& state, const std::vector<LedgerRow>& rows) {
 
 void limitCsv(benchmark::State& state, const std::vector<LedgerRow>& rows) {
     const Columns columns(rows);
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(linesOf(bucketsOf(columns)));
     }
 }
 
 void csv(benchmark::State& state, const std::vector<LedgerRow>& rows) {
     const platform::Calendar calendar = berlin();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         benchmark::DoNotOptimize(TimeBankReporting::ledgerCSV(rows, month(), calendar));
     }
 }
