@@ -18,8 +18,9 @@ OnboardingGateViewModel::OnboardingGateViewModel(StoreSession& session, AppState
       standard_(standard),
       prototype_(prototype),
       onboarding_(session, appState) {
+    // Queued: what a failing save takes back again is never shown.
     connect(&session_, &StoreSession::settingsChanged, this,
-            &OnboardingGateViewModel::updateContent);
+            &OnboardingGateViewModel::updateContent, Qt::QueuedConnection);
     preparation_.setSingleShot(true);
     connect(&preparation_, &QTimer::timeout, this, &OnboardingGateViewModel::runPreparation);
     updateContent();

@@ -17,7 +17,7 @@ class StoreSession;
 
 /// Decides what the main window shows: progress while the store is being prepared, the first-run
 /// screen, or the screens themselves. It holds no state of its own; everything follows from the
-/// settings record. Main thread.
+/// settings record, from the event loop: not from what is undone before it runs again. Main thread.
 class OnboardingGateViewModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
