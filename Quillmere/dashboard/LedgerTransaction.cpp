@@ -5,13 +5,27 @@
 #include "QuillmereKit/records/LedgerRowText.h"
 #include "QuillmereKit/rules/DurationFormatting.h"
 
+#include <algorithm>
+
 namespace quillmere {
+
+namespace {
+
+QString onOneLine(QString text) {
+    const auto breaksLine = [](QChar character) {
+        return QStringView(u"\n\r\u2028\u2029").contains(character);
+    };
+    std::ranges::replace_if(text, breaksLine, QChar(u' '));
+    return text;
+}
+
+} // namespace
 
 LedgerTransaction LedgerTransaction::of(const BalanceAdjustment& adjustment,
                                         const platform::DateText& dates) {
     LedgerTransaction transaction;
     const double seconds = static_cast<double>(adjustment.minutes()) * 60;
-    transaction.title = QString::fromUtf8(LedgerRowText::title(adjustment));
+    transaction.title = onOneLine(QString::fromUtf8(LedgerRowText::title(adjustment)));
     transaction.systemImage = QString::fromUtf8(LedgerRowText::systemImage(adjustment.minutes()));
     transaction.dateText =
         QString::fromUtf8(dates.text(adjustment.date(), platform::DateStyle::weekdayDayTime));

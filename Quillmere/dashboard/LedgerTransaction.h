@@ -24,7 +24,7 @@ struct LedgerTransaction {
     Q_PROPERTY(bool takesTime MEMBER takesTime CONSTANT)
 
 public:
-    QString title;          ///< the note, else the category or the direction
+    QString title;          ///< the note on one line, else the category or the direction
     QString systemImage;    ///< symbol of the direction
     QString dateText;       ///< weekday, day and time
     QString amountText;     ///< clock text with its sign

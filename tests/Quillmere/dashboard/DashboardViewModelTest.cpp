@@ -84,10 +84,11 @@ TEST_F(DashboardViewModelTest, FollowsRecordsAndSettings) {
     EXPECT_EQ(recent(0).dateText.chopped(3), "Sun, Nov 22, 2:10");
     EXPECT_EQ(recent(0).accessibleName, "Dentist, minus 1 hours, 30 minutes");
 
-    change.setNote("Doctor");
+    change.setNote("Doctor\nBring the card");
     settings.setStartingBalanceMinutes(600);
     session().context().save();
-    EXPECT_EQ(recent(0).title, "Doctor");
+    EXPECT_EQ(recent(0).title, "Doctor Bring the card");
+    EXPECT_EQ(recent(0).accessibleName, "Doctor\nBring the card, minus 1 hours, 30 minutes");
     EXPECT_EQ(model().summary().text, "+8:30");
     EXPECT_EQ(model().trend().first(), 600 * minute);
 
