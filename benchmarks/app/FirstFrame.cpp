@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <utility>
 
 namespace quillmere {
@@ -18,6 +19,12 @@ double millisecondsSinceStart() {
     return static_cast<double>(nanoseconds -
                                qEnvironmentVariable("QUILLMERE_BENCH_STARTED").toLongLong()) /
            1e6;
+}
+
+double processorMilliseconds() {
+    timespec used{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+    return static_cast<double>(used.tv_sec) * 1e3 + static_cast<double>(used.tv_nsec) / 1e6;
 }
 
 int residentKibibytes() {
@@ -51,7 +58,7 @@ void FirstFrame::onSwapped() {
     }
     done_ = true;
     const double milliseconds = millisecondsSinceStart();
-    std::printf("%.3f %d\n", milliseconds, residentKibibytes());
+    std::printf("%.3f %d %.3f\n", milliseconds, residentKibibytes(), processorMilliseconds());
     std::fflush(stdout);
     QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
 }

@@ -8,8 +8,9 @@ class QQuickWindow;
 
 namespace quillmere {
 
-/// Prints how long after the start of the process a window showed its first frame that counts, and
-/// how much memory the process then holds ("MILLISECONDS KIBIBYTES"), and ends the program.
+/// Prints how long after the start of the process a window showed its first frame that counts, how
+/// much memory the process then holds, and how long processors have worked for it on all threads
+/// ("MILLISECONDS KIBIBYTES MILLISECONDS"), and ends the program.
 /// The start is what QUILLMERE_BENCH_STARTED says, nanoseconds of the steady clock.
 class FirstFrame : public QObject {
 public:

@@ -27,12 +27,12 @@ def environment_of(desktop):
 
 
 def measure(environment, *words):
-    """Milliseconds from start to first frame, and mebibytes resident then."""
+    """Milliseconds from start to first frame, mebibytes resident then, and the processors' time."""
     started = {"QUILLMERE_BENCH_STARTED": str(time.monotonic_ns())}
     answer = subprocess.run([str(word) for word in words], env=environment | started, check=True,
                             timeout=120, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
-    milliseconds, kibibytes = answer.stdout.split()
-    return float(milliseconds), float(kibibytes) / 1024
+    milliseconds, kibibytes, processors = answer.stdout.split()
+    return float(milliseconds), float(kibibytes) / 1024, float(processors)
 
 
 def main(build):
@@ -51,10 +51,11 @@ def main(build):
             for name, words in programs.items():
                 figures[name].append(measure(environment, *words))
     medians = {}
-    for name, pairs in figures.items():
-        frames, memory = zip(*pairs[1:])
+    for name, turns in figures.items():
+        frames, memory, processors = zip(*turns[1:])
         medians[f"first frame: {name}"] = statistics.median(frames)
         medians[f"memory at first frame: {name}"] = statistics.median(memory)
+        medians[f"processors until first frame: {name}"] = statistics.median(processors)
     print(json.dumps(medians, indent=2))
 
 
