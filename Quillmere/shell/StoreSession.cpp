@@ -2,15 +2,14 @@
 
 #include "Quillmere/shell/MainThreadCall.h"
 #include "Quillmere/shell/TimeFollower.h"
+#include "QuillmereKit/maintenance/StoredBalance.h"
 
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTimer>
 
 #include <chrono>
-#include <cmath>
 #include <condition_variable>
 #include <exception>
-#include <future>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -30,26 +29,6 @@ using platform::store::Subscription;
 constexpr auto pollInterval = 1s;
 constexpr auto readAgainAfter = 5s;
 constexpr auto verifyAfter = 2s; // leaves processors and disk to the first frames
-constexpr double sumIsFreshSeconds = 10;
-
-/// The minutes of the changes dated up to a moment, of one state of the store.
-struct StoredMinutes {
-    std::int64_t minutes;
-    platform::store::Revision revision;
-    platform::Instant until;
-};
-
-auto datedUpTo(platform::Instant moment) {
-    return platform::store::Filter<BalanceAdjustment>{}.where<&BalanceAdjustmentValues::date>(
-        platform::store::Comparison::lessOrEqual, moment);
-}
-
-StoredMinutes sumUpTo(platform::Instant moment, Store& store) {
-    platform::store::Snapshot snapshot(store);
-    platform::store::TypedStorage<BalanceAdjustment> changes(snapshot.database());
-    return {changes.sum<&BalanceAdjustmentValues::minutes>(datedUpTo(moment)), snapshot.revision(),
-            moment};
-}
 
 // Returns false when the thread is asked to stop meanwhile.
 bool waitFor(std::chrono::seconds time, const std::stop_token& stop) {
@@ -71,14 +50,6 @@ public:
           settings(*context),
           adjustments(*context) {}
 
-    [[nodiscard]] std::optional<StoredMinutes> knownSum() const {
-        try {
-            return firstSum.get();
-        } catch (const StoreError&) {
-            return std::nullopt; // whoever asks may try again
-        }
-    }
-
     std::shared_ptr<Store> store;
     TimeFollower& time;
     std::unique_ptr<platform::store::Context> context;
@@ -91,15 +62,11 @@ public:
     std::unique_ptr<CommitWatch> watch;
     std::unique_ptr<QSocketNotifier> watchNotifier;
     QTimer poll;
-    std::shared_future<StoredMinutes> firstSum;
     std::jthread historyReader;
 };
 
 StoreSession::StoreSession(std::shared_ptr<Store> store, TimeFollower& time, QObject* parent)
     : QObject(parent), impl_(std::make_unique<Impl>(std::move(store), time)) {
-    impl_->firstSum = std::async(std::launch::async, [&store = *impl_->store, now = time.now()] {
-        return sumUpTo(now, store);
-    });
     impl_->settings.load();
     listen();
     watchOthers();
@@ -136,14 +103,7 @@ TimeBankSettingsValues StoreSession::settingsValues() {
 }
 
 std::int64_t StoreSession::minutesInStore() {
-    platform::store::Context& context = *impl_->context;
-    const platform::Instant now = impl_->time.now();
-    if (const auto first = impl_->knownSum(); first && !context.hasChanges() &&
-                                              first->revision == context.revision() &&
-                                              std::abs(now - first->until) < sumIsFreshSeconds) {
-        return first->minutes;
-    }
-    return context.sum<BalanceAdjustment, &BalanceAdjustmentValues::minutes>(datedUpTo(now));
+    return StoredBalance(*impl_->context).balanceMinutes(impl_->time.now());
 }
 
 void StoreSession::listen() {

@@ -54,9 +54,8 @@ public:
     /// What the first settings record holds; the defaults while there is none.
     [[nodiscard]] TimeBankSettingsValues settingsValues();
 
-    /// The minutes of all changes dated up to now, summed in the store: for as long as the history
-    /// is being read. The first sum is worked out beside the start of the program and costs its
-    /// asker nothing. Throws `StoreError`.
+    /// The minutes of all changes dated up to now, for as long as the history is being read: from
+    /// the store's note of its balance, or else summed in the store. Throws `StoreError`.
     [[nodiscard]] std::int64_t minutesInStore();
 
 signals:

@@ -47,6 +47,19 @@ StoredBalance::Figures StoredBalance::figures(Instant dayStart, Instant through)
     if (!recall(dayStart, through)) {
         readAll(dayStart, through);
     }
+    return counted(dayStart, through);
+}
+
+std::int64_t StoredBalance::balanceMinutes(Instant through) {
+    if (recall(through, through)) {
+        return counted(through, through).balanceMinutes;
+    }
+    return context_.sum<BalanceAdjustment, &BalanceAdjustmentValues::minutes>(
+        platform::store::Filter<BalanceAdjustment>{}.where<&BalanceAdjustmentValues::date>(
+            platform::store::Comparison::lessOrEqual, through));
+}
+
+StoredBalance::Figures StoredBalance::counted(Instant dayStart, Instant through) const {
     Figures figures = summedUp_;
     for (const auto& [key, change] : listed_) {
         if (change && change->date <= through) {

@@ -6,7 +6,7 @@
 //         records a change dated now, or that many days ago
 //     ledger FILE fill COUNT [MINUTES]
 //         sets the store up and adds that many changes of past years, of various minutes or of
-//         these
+//         these, with the note of their sum that the program makes in its first seconds
 //     ledger FILE balance
 //         the balance as the program shows it
 //     ledger FILE check
@@ -18,6 +18,7 @@
 #include "Platform/calendar/Calendar.h"
 #include "Platform/store/Store.h"
 #include "QuillmereKit/maintenance/StorePreparation.h"
+#include "QuillmereKit/maintenance/StoredBalance.h"
 #include "QuillmereKit/persistence/QuillmerePersistence.h"
 #include "QuillmereKit/rules/DurationFormatting.h"
 #include "QuillmereKit/transactions/TimeBankTransactionController.h"
@@ -97,6 +98,9 @@ void fill(Context& context, Arguments arguments) {
             BalanceAdjustmentKind::manual, date, date));
     }
     context.save();
+    StoredBalance sum(context);
+    (void)sum.figures(context.calendar().startOfDay(context.clock().now()), context.clock().now());
+    sum.remember();
 }
 
 void balance(Context& context, Arguments) {

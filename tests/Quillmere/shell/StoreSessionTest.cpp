@@ -72,7 +72,6 @@ TEST_F(StoreSessionTest, EmptyHistoryIsEmptyAndNotLoading) {
     EXPECT_EQ(session.settingsRecord(), nullptr);
 }
 
-// The first sum is worked out ahead; whatever happens after it has to show all the same.
 TEST_F(StoreSessionTest, SumsTheStoreWhileTheHistoryIsMissing) {
     struct Turn {
         const char* name;

@@ -35,6 +35,7 @@ protected:
         EXPECT_EQ(figures.balanceMinutes, expected.balanceMinutes);
         EXPECT_EQ(figures.addedMinutes, expected.addedMinutes);
         EXPECT_EQ(figures.takenMinutes, expected.takenMinutes);
+        EXPECT_EQ(StoredBalance(*context).balanceMinutes(clock.now()), expected.balanceMinutes);
         if (remember) {
             balance.remember();
         }
