@@ -29,7 +29,7 @@ FocusScope {
         padding: 20
         topPadding: Theme.spaceL
         // Room to scroll everything out from under the banner.
-        bottomPadding: banner.visible ? banner.height + 2 * Theme.spaceL : Theme.spaceXL
+        bottomPadding: (banner.item as Item)?.visible ? banner.height + 2 * Theme.spaceL : Theme.spaceXL
 
         BalanceHeroView {
             width: parent.width
@@ -49,21 +49,33 @@ FocusScope {
             onGuideChosen: guide.source = "GuideSheet.qml"
         }
 
-        RecentActivitySection {
+        // Waits for the history, which the first frames do not have yet.
+        Loader {
             width: parent.width
-            visible: root.model.hasActivity
-            items: root.model.recentItems
-            historyURL: root.model.historyURL
+            active: root.model.hasActivity
+            Component.onCompleted: setSource("RecentActivitySection.qml", {
+                items: root.model.recentItems,
+                historyURL: root.model.historyURL
+            })
         }
     }
 
-    UndoBanner {
+    // Made when it first shows.
+    Loader {
         id: banner
+
+        readonly property bool wanted: root.model.undoOffer.isOffered
+
+        function make() {
+            if (banner.wanted && banner.status === Loader.Null)
+                banner.setSource("UndoBanner.qml", { offer: root.model.undoOffer });
+        }
 
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.spaceL
-        offer: root.model.undoOffer
+        onWantedChanged: banner.make()
+        Component.onCompleted: banner.make()
     }
 
     Connections {

@@ -10,13 +10,16 @@ Item {
 
     required property UndoOffer offer
 
-    property real presence: offer.isOffered ? 1 : 0
+    // It comes in when it was made for an offer, too.
+    property bool isMade: false
+    property real presence: root.isMade && offer.isOffered ? 1 : 0
 
     implicitWidth: content.implicitWidth + 14 + Theme.spaceS
     implicitHeight: content.implicitHeight + 2 * Theme.spaceS
     visible: presence > 0
     enabled: offer.isOffered
     opacity: Math.min(1, presence)
+    Component.onCompleted: root.isMade = true
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: qsTr("%1 %2").arg(root.offer.title).arg(root.offer.amountText)
