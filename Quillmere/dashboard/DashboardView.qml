@@ -43,6 +43,8 @@ FocusScope {
         }
 
         RecordTimeSection {
+            id: recordTime
+
             width: parent.width
             onAddChosen: root.model.addTime()
             onTakeChosen: root.model.takeFlexTime()
@@ -68,7 +70,10 @@ FocusScope {
 
         function make() {
             if (banner.wanted && banner.status === Loader.Null)
-                banner.setSource("UndoBanner.qml", { offer: root.model.undoOffer });
+                banner.setSource("UndoBanner.qml", {
+                    offer: root.model.undoOffer,
+                    heir: recordTime.addCard
+                });
         }
 
         anchors.horizontalCenter: parent.horizontalCenter

@@ -9,6 +9,7 @@ ColumnLayout {
 
     // As much as leaves the longer subtitle its room in the smallest window.
     readonly property int cardPadding: 16
+    readonly property alias addCard: addCard
 
     signal addChosen()
     signal takeChosen()
@@ -40,6 +41,8 @@ ColumnLayout {
         spacing: Theme.spaceM
 
         CardButton {
+            id: addCard
+
             objectName: "transaction.action.add"
             Layout.fillWidth: true
             Layout.preferredWidth: 1

@@ -9,6 +9,8 @@ Item {
     id: root
 
     required property UndoOffer offer
+    // Has the keyboard next, should the banner go away with it.
+    required property Item heir
 
     // It comes in when it was made for an offer, too.
     property bool isMade: false
@@ -17,12 +19,22 @@ Item {
     implicitWidth: content.implicitWidth + 14 + Theme.spaceS
     implicitHeight: content.implicitHeight + 2 * Theme.spaceS
     visible: presence > 0
-    enabled: offer.isOffered
     opacity: Math.min(1, presence)
     Component.onCompleted: root.isMade = true
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: qsTr("%1 %2").arg(root.offer.title).arg(root.offer.amountText)
+
+    Connections {
+        target: root.offer
+
+        // Not a binding: what is disabled has lost the keyboard already, and the ring with it.
+        function onOfferChanged() {
+            if (!root.offer.isOffered && undo.activeFocus)
+                root.heir.forceActiveFocus(undo.focusReason);
+            root.enabled = root.offer.isOffered;
+        }
+    }
 
     Behavior on presence {
         SpringMotion {}
@@ -68,6 +80,8 @@ Item {
         }
 
         BorderedButton {
+            id: undo
+
             objectName: "transaction.undo"
             text: qsTr("Undo")
             Accessible.description: qsTr("Removes the time-bank change")

@@ -162,6 +162,24 @@ Item {
             tryCompare(undo, "visible", false);
         }
 
+        function test_keepsTheKeyboardInSightWhenTheOfferGoes_data() {
+            return [{ tag: "pressed", go: () => keyClick(Qt.Key_Return) }, { tag: "over", go: () => Fixture.passSeconds(8) }];
+        }
+
+        function test_keepsTheKeyboardInSightWhenTheOfferGoes(row) {
+            part("transaction.action.take").forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => focusedName() === "transaction.customHours");
+            keyClick(Qt.Key_2);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => Fixture.model.undoOffer.isOffered);
+            part("transaction.undo").forceActiveFocus(Qt.TabFocusReason);
+            row.go();
+            verify(!Fixture.model.undoOffer.isOffered);
+            compare(focusedName(), "transaction.action.add");
+            verify(part("transaction.action.add").visualFocus);
+        }
+
         function test_closesTheFormWithEscape() {
             mouseClick(part("transaction.action.take"));
             tryVerify(() => focusedName() === "transaction.customHours");
