@@ -12,11 +12,22 @@
 
 namespace platform::store {
 
+namespace {
+
+StoreConfiguration resolved(StoreConfiguration configuration) {
+    if (!configuration.inMemory) {
+        configuration.file = resolveStoreFile(configuration.file);
+    }
+    return configuration;
+}
+
+} // namespace
+
 class Store::Impl {
 public:
     Impl(const Schema& schemaOf, StoreConfiguration with)
         : schema(schemaOf),
-          configuration(std::move(with)),
+          configuration(resolved(std::move(with))),
           memoryUri("file:/" + Uuid::random().text() + "?vfs=memdb"),
           keeper(configuration.inMemory ? openInMemory()
                                         : openStoreFile(schema, configuration, health)) {

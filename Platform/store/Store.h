@@ -15,8 +15,8 @@ class Database;
 
 /// Where and how a store is opened.
 struct StoreConfiguration {
-    /// The store's file. Its folder is created (0700) when missing; the file is made 0600. Ignored
-    /// for a store in memory.
+    /// The store's file, or a symbolic link to it. Its folder is created (0700) when missing; the
+    /// file is made 0600. Ignored for a store in memory.
     std::filesystem::path file = {};
     /// Kept in memory only; gone with the last owner of the store.
     bool inMemory = false;

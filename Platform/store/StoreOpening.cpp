@@ -95,6 +95,19 @@ void restrictAccess(const std::filesystem::path& file) {
 
 } // namespace
 
+std::filesystem::path resolveStoreFile(const std::filesystem::path& file) {
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(file, error);
+    if (error || !std::filesystem::exists(status)) {
+        return file;
+    }
+    if (!std::filesystem::is_regular_file(status)) {
+        throw StoreError(StoreFault::cannotOpen, file.string() + " is not a file");
+    }
+    std::filesystem::path resolved = std::filesystem::canonical(file, error);
+    return error ? file : resolved;
+}
+
 std::unique_ptr<Database> openStoreFile(const Schema& schema,
                                         const StoreConfiguration& configuration,
                                         std::shared_ptr<StoreHealth> health) {

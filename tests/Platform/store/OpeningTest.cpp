@@ -149,6 +149,27 @@ TEST_F(OpeningTest, KeepsItsIdentity) {
     EXPECT_NE(Store::open(testSchema(), {.inMemory = true})->id(), id);
 }
 
+TEST_F(OpeningTest, FollowsALinkToWhereTheStoreIs) {
+    fill();
+    const TestFolder elsewhere;
+    const std::filesystem::path link = elsewhere.path() / "link.sqlite";
+    std::filesystem::create_symlink(file(), link);
+    const auto store = Store::open(testSchema(), {.file = link});
+    const auto watch = store->watchCommits();
+    const auto context = openContext();
+    addReminder(*context, "by its own name");
+    context->save();
+    EXPECT_TRUE(watch->drain());
+    EXPECT_NE(findTitle(*store->makeContext(environment()), "by its own name"), nullptr);
+    EXPECT_EQ(folderContents(elsewhere.path()).size(), 1U) << "the log is beside the file";
+}
+
+TEST_F(OpeningTest, RefusesAPipeWithoutWaitingForIt) {
+    std::filesystem::create_directory(file().parent_path());
+    ASSERT_EQ(::mkfifo(file().c_str(), 0600), 0);
+    EXPECT_EQ(faultOf([&] { (void)open(); }), StoreFault::cannotOpen);
+}
+
 TEST_F(OpeningTest, NewerSchemaStillInTheLogIsRefusedAndLeftThere) {
     fill();
     const TestFolder copies;
