@@ -42,15 +42,6 @@ FormSection {
     Repeater {
         id: categories
 
-        // The row that follows a removed one takes its place for the keyboard.
-        function focusRow(index: int) {
-            const row = categories.itemAt(Math.min(index, categories.count - 1)) as CustomCategoryRow;
-            if (row === null)
-                name.forceActiveFocus(Qt.TabFocusReason);
-            else
-                row.focusButton();
-        }
-
         model: root.model.customCategories
 
         CustomCategoryRow {
@@ -60,12 +51,12 @@ FormSection {
             required property string title
 
             text: category.title
+            // A key that is still down does no harm in the field, as it would on the next button.
             onRemoveChosen: {
-                const index = category.index;
                 const count = categories.count;
-                root.model.remove(index);
+                root.model.remove(category.index);
                 if (categories.count < count)
-                    categories.focusRow(index);
+                    name.forceActiveFocus(Qt.TabFocusReason);
             }
         }
     }

@@ -9,16 +9,10 @@ FormRow {
 
     signal removeChosen()
 
-    function focusButton() {
-        button.forceActiveFocus(Qt.TabFocusReason);
-    }
-
     symbol: "tag"
     overhang: 7
 
     IconButton {
-        id: button
-
         objectName: "settings.customAdjustmentCategory.remove"
         text: qsTr("Remove %1").arg(root.text)
         symbol: "trash"

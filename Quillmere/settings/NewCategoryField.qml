@@ -27,7 +27,7 @@ FocusScope {
             placeholderText: qsTr("New category")
             text: root.model.newAdjustmentCategoryName
             Accessible.name: qsTr("New category")
-            onTextEdited: root.model.newAdjustmentCategoryName = text
+            onTextChanged: root.model.newAdjustmentCategoryName = text
             onAccepted: root.model.add()
         }
 
