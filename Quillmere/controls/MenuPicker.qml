@@ -106,6 +106,7 @@ T.ComboBox {
         Accessible.selectable: true
         Accessible.selected: root.currentIndex === choice.index
         Accessible.onPressAction: choice.clicked()
+        onYChanged: order.schedule()
 
         background: Rectangle {
             radius: Theme.popoverRadius - 5
@@ -138,12 +139,20 @@ T.ComboBox {
         background: PopoverSurface {}
 
         contentItem: ListView {
+            id: list
+
             implicitHeight: contentHeight
             model: root.popup.visible ? root.delegateModel : null
             currentIndex: root.highlightedIndex
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ThinScrollBar {}
+
+            ReadingOrder {
+                id: order
+
+                container: list.contentItem
+            }
         }
     }
 
