@@ -48,7 +48,6 @@ Item {
         y: Math.round((picker.height - height) / 2)
         share: root.model.csvShare
         title: qsTr("Quillmere %1").arg(root.model.periodTitle)
-        suffix: "csv"
         nameFilters: [qsTr("Comma-separated text (*.csv)")]
         enabled: !root.model.isLoading
         text: qsTr("Export CSV")

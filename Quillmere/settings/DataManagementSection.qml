@@ -24,7 +24,6 @@ FormSection {
         ShareBehavior {
             share: root.model.archiveShare
             title: qsTr("Quillmere data archive")
-            suffix: "json"
             nameFilters: [qsTr("JSON files (*.json)")]
         }
     }

@@ -1,36 +1,51 @@
 #include "Quillmere/share/DialogAccess.h"
 
-#include <QtQuick/QQuickItem>
+#include "Quillmere/share/DialogNameField.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace quillmere {
 
 namespace {
 
-/// What Qt tells of the item; null while no assistive technology is there.
-QObject* accessibleOf(const QQuickItem& item) {
-    for (QObject* child : item.children()) {
-        if (child->inherits("QQuickAccessibleAttached")) {
-            return child;
+constexpr QLatin1String listName("fileDialogListView");
+constexpr QLatin1String nameFieldName("fileNameTextField");
+constexpr int acceptRole = 0; // DialogButtonBox.AcceptRole
+
+QQuickItem* firstOf(QQuickItem& item, const std::function<bool(const QQuickItem&)>& isWanted) {
+    if (isWanted(item)) {
+        return &item;
+    }
+    for (QQuickItem* child : item.childItems()) {
+        if (QQuickItem* found = firstOf(*child, isWanted)) {
+            return found;
         }
     }
     return nullptr;
 }
 
+QQuickItem* partOf(QQuickItem& popup, QLatin1String name) {
+    return firstOf(popup, [&](const QQuickItem& item) { return item.objectName() == name; });
+}
+
+// The button that opens or saves, by the role that it has in its box.
+bool isAcceptButton(const QQuickItem& item) {
+    return std::ranges::any_of(item.children(), [](const QObject* child) {
+        return child->inherits("QQuickDialogButtonBoxAttached") &&
+               child->property("buttonRole").toInt() == acceptRole;
+    });
+}
+
 QString nameOf(const QQuickItem& item) {
-    if (item.objectName() == QLatin1String("fileNameTextField")) {
+    if (item.objectName() == nameFieldName) {
         return DialogAccess::tr("File name");
+    }
+    if (item.inherits("QQuickFileDialogDelegate")) {
+        return item.property("fileName").toString();
     }
     const bool isUpButton = item.inherits("QQuickToolButton");
     return isUpButton ? DialogAccess::tr("Enclosing folder") : QString();
-}
-
-// Popups lie beside each other in one layer; this one has a list of files in it.
-bool isFileDialog(const QQuickItem& item) {
-    return item.objectName() == QLatin1String("fileDialogListView") ||
-           std::ranges::any_of(item.childItems(),
-                               [](const QQuickItem* child) { return isFileDialog(*child); });
 }
 
 /// Before it could click a button by itself, Qt lost what assistive technology presses.
@@ -38,15 +53,35 @@ bool losesPresses(const QQuickItem& item) {
     return item.inherits("QQuickAbstractButton") && item.metaObject()->indexOfMethod("click()") < 0;
 }
 
-void tendTo(QQuickItem& item) {
-    if (QObject* accessible = accessibleOf(item)) {
-        const QString name = nameOf(item);
-        if (!name.isEmpty()) {
-            accessible->setProperty("name", name);
+// Popups lie beside each other in one layer; this one has a list of files in it.
+QQuickItem* fileDialogOver(const QQuickWindow& window) {
+    for (QQuickItem* layer : window.contentItem()->childItems()) {
+        for (QQuickItem* popup : layer->childItems()) {
+            if (layer->inherits("QQuickOverlay") && partOf(*popup, listName)) {
+                return popup;
+            }
         }
-        if (losesPresses(item)) {
-            QObject::connect(accessible, SIGNAL(pressAction()), &item, SIGNAL(clicked()),
-                             Qt::UniqueConnection);
+    }
+    return nullptr;
+}
+
+/// `accessible` is what Qt tells of the item.
+void tell(QObject& accessible, const QQuickItem& item) {
+    const QString name = nameOf(item);
+    if (!name.isEmpty()) {
+        accessible.setProperty("name", name);
+    }
+    if (losesPresses(item)) {
+        QObject::connect(&accessible, SIGNAL(pressAction()), &item, SIGNAL(clicked()),
+                         Qt::UniqueConnection);
+    }
+}
+
+void tendTo(QQuickItem& item) {
+    // There is none while no assistive technology is there, and Qt gives rows of the list two.
+    for (QObject* child : item.children()) {
+        if (child->inherits("QQuickAccessibleAttached")) {
+            tell(*child, item);
         }
     }
     for (QQuickItem* child : item.childItems()) {
@@ -56,13 +91,52 @@ void tendTo(QQuickItem& item) {
 
 } // namespace
 
-void DialogAccess::tend(QQuickWindow* window) {
-    for (QQuickItem* layer : window->contentItem()->childItems()) {
-        for (QQuickItem* popup : layer->childItems()) {
-            if (layer->inherits("QQuickOverlay") && isFileDialog(*popup)) {
-                tendTo(*popup);
-            }
-        }
+DialogAccess::DialogAccess(QObject* parent) : QObject(parent) {
+}
+
+DialogAccess::~DialogAccess() = default;
+
+void DialogAccess::open(QQuickWindow* window) {
+    popup_ = fileDialogOver(*window);
+    if (!popup_) {
+        return;
+    }
+    tendTo(*popup_);
+    if (auto* rows = partOf(*popup_, listName)->property("contentItem").value<QQuickItem*>()) {
+        connect(rows, &QQuickItem::childrenChanged, this, &DialogAccess::onRowsMade,
+                Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+    }
+    tendNameField();
+}
+
+void DialogAccess::tendNameField() {
+    QQuickItem* field = partOf(*popup_, nameFieldName);
+    QObject* dialog = popup_->parent();
+    if (!field || !field->isVisible() || !dialog) {
+        return;
+    }
+    if (!nameField_ || !nameField_->isOf(*dialog)) {
+        QQuickItem* saveButton = firstOf(*popup_, isAcceptButton);
+        nameField_ = std::make_unique<DialogNameField>(*field, *dialog, saveButton);
+    }
+    nameField_->begin();
+}
+
+void DialogAccess::follow() {
+    if (popup_) {
+        tendTo(*popup_);
+    }
+    if (nameField_) {
+        nameField_->follow();
+    }
+}
+
+void DialogAccess::onRowsMade() {
+    if (popup_) {
+        tendTo(*popup_);
+    }
+    if (nameField_) {
+        nameField_->keepKeyboard();
     }
 }
 

@@ -1,24 +1,39 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 #include <QtQml/qqmlregistration.h>
+#include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
+
+#include <memory>
 
 namespace quillmere {
 
-/// Opens Qt's own file dialog to assistive technology, to which it gives nameless controls that
-/// cannot be pressed. Main thread.
+class DialogNameField;
+
+/// Makes Qt's own file dialog fit for the keyboard and for assistive technology, to which it gives
+/// nameless controls that cannot be pressed. One for each dialog. Main thread.
 class DialogAccess : public QObject {
     Q_OBJECT
     QML_ELEMENT
 
 public:
-    using QObject::QObject;
+    explicit DialogAccess(QObject* parent = nullptr);
+    ~DialogAccess() override;
 
-    /// To be called when a dialog has opened over the window's content, and when it shows another
-    /// folder. Does nothing when the desktop's own dialog has opened. A file of the list still has
-    /// no press; its path can be typed after Ctrl+L.
-    Q_INVOKABLE static void tend(QQuickWindow* window);
+    /// To be called when the dialog has opened over the window's content. Does nothing when that is
+    /// the desktop's own.
+    Q_INVOKABLE void open(QQuickWindow* window);
+    /// To be called when the dialog shows another folder.
+    Q_INVOKABLE void follow();
+
+private:
+    void onRowsMade();
+    void tendNameField();
+
+    QPointer<QQuickItem> popup_;
+    std::unique_ptr<DialogNameField> nameField_;
 };
 
 } // namespace quillmere

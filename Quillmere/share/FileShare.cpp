@@ -30,6 +30,18 @@ fs::path pathOf(const QUrl& url) {
     return QFile::encodeName(url.toLocalFile()).toStdString();
 }
 
+/// Empty for what is none. Qt 6.4's own dialog leaves the scheme away from a path that was typed.
+QUrl localFile(const QUrl& url) {
+    const QString path = url.scheme().isEmpty() ? url.path() : url.toLocalFile();
+    return QDir::isAbsolutePath(path) ? QUrl::fromLocalFile(path) : QUrl();
+}
+
+QUrl withSuffix(const QUrl& file, const fs::path& exported) {
+    const bool isComplete = file.isEmpty() || file.fileName().contains(u'.');
+    return isComplete ? file
+                      : QUrl::fromLocalFile(file.toLocalFile() + textOf(exported.extension()));
+}
+
 std::shared_ptr<QFile> opened(const fs::path& path) {
     auto file = std::make_shared<QFile>(textOf(path));
     if (!file->open(QIODevice::ReadOnly)) {
@@ -135,11 +147,11 @@ void FileShare::choose(const QUrl& target) {
     if (step_ != Choosing) {
         return;
     }
-    target_ = target;
-    if (!target.isLocalFile()) {
+    target_ = withSuffix(localFile(target), exported_.path);
+    if (target_.isEmpty()) {
         ShareIssue::reportUnsaved(appState_, std::runtime_error("not a local file"));
         go(Idle);
-    } else if (QFileInfo::exists(target.toLocalFile())) {
+    } else if (QFileInfo::exists(target_.toLocalFile())) {
         go(Replacing);
     } else {
         copy();

@@ -78,7 +78,8 @@ public:
     /// The drag is over, wherever it led, or was given up before it began.
     Q_INVOKABLE void endDrag();
     Q_INVOKABLE void acceptRemark();
-    /// The place chosen in the dialog: a local file.
+    /// The place chosen in the dialog: a local file, which gets the export's suffix when it has
+    /// none.
     Q_INVOKABLE void choose(const QUrl& target);
     Q_INVOKABLE void replace();
     Q_INVOKABLE void cancel();

@@ -2,18 +2,16 @@ import QtQuick
 import QtQuick.Dialogs
 import Quillmere.share
 
-// The desktop's file dialog, or Qt's own where the desktop has none, with names and presses for
-// assistive technology.
+// The desktop's file dialog, or Qt's own where the desktop has none, made fit for the keyboard and
+// for assistive technology.
 FileDialog {
     id: root
 
     readonly property DialogAccess access: DialogAccess {}
 
-    function tend() {
+    onVisibleChanged: {
         if (root.visible && root.parentWindow)
-            root.access.tend(root.parentWindow);
+            root.access.open(root.parentWindow);
     }
-
-    onVisibleChanged: root.tend()
-    onCurrentFolderChanged: root.tend()
+    onCurrentFolderChanged: root.access.follow()
 }

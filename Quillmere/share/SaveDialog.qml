@@ -8,7 +8,6 @@ ReachableFileDialog {
     id: root
 
     required property FileShare share
-    required property string suffix
 
     readonly property Connections following: Connections {
         target: root.share
@@ -25,7 +24,6 @@ ReachableFileDialog {
     fileMode: FileDialog.SaveFile
     options: FileDialog.DontConfirmOverwrite // qmllint disable
     acceptLabel: qsTr("Save")
-    defaultSuffix: root.suffix
     onAccepted: root.share.choose(root.selectedFile)
     onRejected: root.share.cancel()
 }

@@ -8,9 +8,8 @@ Item {
     id: root
 
     required property FileShare share
-    // What is handed out, as the dialog's title, and how its file name ends.
+    // What is handed out, as the dialog's title.
     required property string title
-    required property string suffix
     property list<string> nameFilters
 
     anchors.fill: parent
@@ -45,7 +44,6 @@ Item {
     SaveDialog {
         share: root.share
         title: root.title
-        suffix: root.suffix
         nameFilters: root.nameFilters // qmllint disable
     }
 

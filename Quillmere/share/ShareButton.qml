@@ -7,9 +7,8 @@ BorderedButton {
     id: root
 
     required property FileShare share
-    // What is handed out, as the dialog's title, and how its file name ends.
+    // What is handed out, as the dialog's title.
     required property string title
-    required property string suffix
     property alias nameFilters: behavior.nameFilters
 
     symbol: "square.and.arrow.up"
@@ -20,6 +19,5 @@ BorderedButton {
 
         share: root.share
         title: root.title
-        suffix: root.suffix
     }
 }

@@ -8,14 +8,10 @@ LARGE = 60_000
 
 
 class Archive(Story):
-    def archives(self):
-        return sorted(self.desktop.home.glob("Quillmere-Data-*.json"))
-
-    def export(self, program, kept_as):
-        program.export_archive()
-        program.await_true(lambda: len(self.archives()) == 1, "the archive is saved")
-        file = self.desktop.home / kept_as
-        self.archives()[0].rename(file)
+    def export(self, program, name):
+        program.export_archive(name)
+        file = self.desktop.home / f"{name}.json"
+        program.await_true(file.exists, "the archive is where the dialog said")
         return json.loads(file.read_bytes())
 
     def merge(self, program, file, records):
@@ -34,19 +30,19 @@ class Archive(Story):
         program.take("0.75", "Zahnarzt – früh")
         program.await_balance("plus 0 hours, 45 minutes")
         program.open_settings()
-        before = self.export(program, "before.json")
+        before = self.export(program, "before #1")
         self.assertEqual(len(before["balanceAdjustments"]), 3)
 
         self.erase(program)
         program.await_element("button", "Open my time bank")
         self.assertEqual(self.ledger("list"), [])
-        self.merge(program, "before.json", 4)
+        self.merge(program, "before #1.json", 4)
         program.await_element(name="Archive imported")
         self.assertIsNotNone(program.find(name="4 added, 0 updated, and 0 already current."))
         program.press("button", "Done")
         program.await_balance("plus 0 hours, 45 minutes")
 
-        after = self.export(program, "after.json")
+        after = self.export(program, "after")
         del before["exportedAt"], after["exportedAt"]
         self.assertEqual(after, before)
 

@@ -56,10 +56,14 @@ class TimeBank(Program):
         self.keys("ctrl+comma")
         self.await_element("heading", "Appearance")
 
-    def export_archive(self):
-        """Exports to where the dialog stands, under the name that it offers."""
+    def export_archive(self, name):
+        """Exports to where the dialog stands. The name, without its suffix, is typed over the one
+        that Qt's own file dialog offers."""
         self.reach("button", "Export data archive").press()
-        self.press("button", "Save")
+        self.await_element("button", "Save")
+        self.await_true(lambda: self.focused().name == "File name", "the name has the keyboard")
+        self.type(name)
+        self.keys("Return")
         self.await_absence("button", "Save")
 
     def choose_archive(self, path):

@@ -83,7 +83,7 @@ TEST_F(FileShareTest, PutsACopyWhereTheUserSays) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        const fs::path target = place() / row.name;
+        const fs::path target = place() / (std::string(row.name) + ".csv");
         if (row.before) {
             platform::writeFileAtomically(target, *row.before, 0600);
         }
@@ -94,17 +94,42 @@ TEST_F(FileShareTest, PutsACopyWhereTheUserSays) {
     EXPECT_EQ(share_.suggestedTarget(), urlOf(place() / "a b.csv"));
 }
 
+TEST_F(FileShareTest, TakesAPlaceHoweverItsDialogSaysIt) {
+    const auto typed = [&](const char* name) {
+        return QUrl(QString::fromStdString(place() / name));
+    };
+    struct Row {
+        const char* name;
+        QUrl chosen;
+        const char* saved;
+    };
+    const Row rows[] = {
+        {"no scheme", typed("typed.csv"), "typed.csv"},
+        {"neither scheme nor suffix", typed("bare"), "bare.csv"},
+        {"another suffix", urlOf(place() / "a.txt"), "a.txt"},
+        {"what is special in a URL", urlOf(place() / "a#b%41c?d"), "a#b%41c?d.csv"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        share_.save();
+        reach(FileShare::Choosing);
+        share_.choose(row.chosen);
+        reach(FileShare::Idle);
+        EXPECT_EQ(textIn(place() / row.saved), "new");
+    }
+}
+
 TEST_F(FileShareTest, WritesWhatThereIsAtThatMomentAndNothingWhenTheDialogIsLeft) {
-    saveTo(place() / "first");
+    saveTo(place() / "first.csv");
     text_ = "newer";
     share_.save();
     reach(FileShare::Choosing);
     share_.save();
     share_.cancel();
     EXPECT_EQ(share_.step(), FileShare::Idle);
-    saveTo(place() / "second");
-    EXPECT_EQ(textIn(place() / "first"), "new");
-    EXPECT_EQ(textIn(place() / "second"), "newer");
+    saveTo(place() / "second.csv");
+    EXPECT_EQ(textIn(place() / "first.csv"), "new");
+    EXPECT_EQ(textIn(place() / "second.csv"), "newer");
 }
 
 TEST_F(FileShareTest, SavesWhatWasExportedThoughAnotherExportHasClearedItAway) {
@@ -114,16 +139,16 @@ TEST_F(FileShareTest, SavesWhatWasExportedThoughAnotherExportHasClearedItAway) {
     FileShare other([this] { return prepare(); }, "Exporting…", appState_);
     other.save();
     ASSERT_TRUE(QTest::qWaitFor([&] { return other.step() == FileShare::Choosing; }, 30'000));
-    share_.choose(urlOf(place() / "first"));
+    share_.choose(urlOf(place() / "first.csv"));
     reach(FileShare::Idle);
-    EXPECT_EQ(textIn(place() / "first"), "new");
+    EXPECT_EQ(textIn(place() / "first.csv"), "new");
 }
 
 TEST_F(FileShareTest, SaysThatAPlaceCannotBeWrittenAndLeavesWhatWasThere) {
     if (!mountSmallDisk(place())) {
         GTEST_SKIP() << "mounting a small disk is not permitted here";
     }
-    const fs::path target = place() / "kept";
+    const fs::path target = place() / "kept.csv";
     platform::writeFileAtomically(target, "old", 0600);
     const auto failsWith = [&](const QUrl& chosen, const char* message) {
         SCOPED_TRACE(message);
@@ -140,6 +165,7 @@ TEST_F(FileShareTest, SaysThatAPlaceCannotBeWrittenAndLeavesWhatWasThere) {
     };
     failsWith(urlOf(place() / "none/file"), "The file couldn't be written to the place you chose.");
     failsWith(QUrl("sftp://host/file"), "The file couldn't be written to the place you chose.");
+    failsWith(QUrl("file.csv"), "The file couldn't be written to the place you chose.");
     text_.assign(100'000, 'x');
     failsWith(urlOf(target), "There isn't enough space in the place you chose.");
     ASSERT_TRUE(makeReadOnly(place()));
