@@ -14,8 +14,6 @@
 
 namespace quillmere {
 
-using platform::store::LiveState;
-
 DashboardViewModel::DashboardViewModel(StoreSession& session, AppState& appState,
                                        platform::Preferences& preferences,
                                        std::unique_ptr<Countdown> undoCountdown, QObject* parent)
@@ -94,12 +92,8 @@ void DashboardViewModel::closeComposer() {
     }
 }
 
-// The figures follow the live query, which says nothing before the history is there.
 void DashboardViewModel::onSaved(BalanceAdjustment& transaction) {
     undoOffer_.offer(transaction);
-    if (isLoading()) {
-        balance_.update();
-    }
 }
 
 void DashboardViewModel::onTimeChanged() {
@@ -153,7 +147,7 @@ void DashboardViewModel::updateRecent() {
 }
 
 bool DashboardViewModel::isLoading() const {
-    return session_.adjustments().state() == LiveState::loading;
+    return session_.isLoading();
 }
 
 std::span<const LedgerRow> DashboardViewModel::rows() const {

@@ -17,12 +17,10 @@ namespace {
 
 using platform::store::ListStep;
 using platform::store::ListSteps;
-using platform::store::LiveState;
 using platform::store::RowRef;
 
 std::span<const LedgerRow> changesOf(StoreSession& session) {
-    const auto& query = session.adjustments();
-    return query.state() == LiveState::loading ? std::span<const LedgerRow>() : query.rows();
+    return session.isLoading() ? std::span<const LedgerRow>() : session.adjustments().rows();
 }
 
 QString spoken(const LedgerTransaction& transaction, std::int64_t minutes) {

@@ -13,7 +13,6 @@ namespace quillmere {
 namespace {
 
 using platform::store::Context;
-using platform::store::LiveState;
 using platform::store::RowRef;
 using platform::store::Store;
 using platform::store::StoreError;
@@ -45,7 +44,7 @@ HistoryViewModel::HistoryViewModel(StoreSession& session, AppState& appState, Pe
 HistoryViewModel::~HistoryViewModel() = default;
 
 bool HistoryViewModel::isLoading() const {
-    return session_.adjustments().state() == LiveState::loading;
+    return session_.isLoading();
 }
 
 bool HistoryViewModel::isEmpty() const {

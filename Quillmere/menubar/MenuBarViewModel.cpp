@@ -44,7 +44,6 @@ void MenuBarViewModel::onSaved() {
         appState_.report(error, tr("Couldn't prepare the menu-bar time bank"),
                          tr("The change wasn't saved. Please try again."));
     }
-    balance_.update();
 }
 
 // The form may be closing from within its own save.

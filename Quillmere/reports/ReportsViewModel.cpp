@@ -70,7 +70,7 @@ QList<QString> ReportsViewModel::weekdays() const {
 }
 
 bool ReportsViewModel::isLoading() const {
-    return session_.adjustments().state() == platform::store::LiveState::loading;
+    return session_.isLoading();
 }
 
 bool ReportsViewModel::isEmpty() const {

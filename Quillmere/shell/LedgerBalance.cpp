@@ -12,12 +12,12 @@
 namespace quillmere {
 
 using platform::Instant;
-using platform::store::LiveState;
 
 LedgerBalance::LedgerBalance(StoreSession& session, QObject* parent)
     : QObject(parent), session_(session), nextChange_(session.time().clock()) {
     connect(&session_, &StoreSession::adjustmentsChanged, this, &LedgerBalance::update);
     connect(&session_, &StoreSession::settingsChanged, this, &LedgerBalance::onSettingsChanged);
+    connect(&session_, &StoreSession::refreshed, this, &LedgerBalance::onRefreshed);
     connect(&session_.time(), &TimeFollower::changed, this, &LedgerBalance::update);
     connect(&nextChange_, &InstantTimer::fired, this, &LedgerBalance::update);
     update();
@@ -35,7 +35,7 @@ QString LedgerBalance::spoken() const {
 
 void LedgerBalance::update() {
     startingBalance_ = storedStartingBalance();
-    const bool isLoading = session_.adjustments().state() == LiveState::loading;
+    const bool isLoading = session_.isLoading();
     const auto rows = isLoading ? std::span<const LedgerRow>() : session_.adjustments().rows();
     const double seconds = isLoading ? secondsInStore()
                                      : TimeBankCalculator::ledgerBalanceSeconds(
@@ -49,6 +49,13 @@ void LedgerBalance::update() {
 
 void LedgerBalance::onSettingsChanged() {
     if (storedStartingBalance() != startingBalance_) {
+        update();
+    }
+}
+
+// No live query tells of records before the history is there.
+void LedgerBalance::onRefreshed() {
+    if (session_.isLoading()) {
         update();
     }
 }

@@ -16,7 +16,8 @@ class StoreSession;
 
 /// The balance now, wherever it is shown: the starting balance and every change dated up to the
 /// present. It follows records, settings and time, and moves when a change dated in the future
-/// comes due. While the history is being read it is summed in the store. Main thread.
+/// comes due. While the history is being read it is summed in the store
+/// after every commit. Main thread.
 class LedgerBalance : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -41,10 +42,6 @@ public:
     /// The starting balance that `seconds` contains.
     [[nodiscard]] std::int64_t startingBalanceMinutes() const { return startingBalance_; }
 
-    /// Looks at once. Needed after a save while the history is being read, when no live query tells
-    /// of it.
-    void update();
-
 signals:
     void changed();
     /// Records, starting balance or time have moved and the balance was computed from them, whether
@@ -52,7 +49,9 @@ signals:
     void updated();
 
 private:
+    void update();
     void onSettingsChanged();
+    void onRefreshed();
     void scheduleNextChange(std::span<const LedgerRow> rows);
     [[nodiscard]] std::int64_t storedStartingBalance() const;
     [[nodiscard]] double secondsInStore() const;

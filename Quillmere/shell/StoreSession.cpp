@@ -93,6 +93,10 @@ StoreSession::AdjustmentsQuery& StoreSession::adjustments() {
     return impl_->adjustments;
 }
 
+bool StoreSession::isLoading() const {
+    return impl_->adjustments.state() == platform::store::LiveState::loading;
+}
+
 TimeBankSettings* StoreSession::settingsRecord() {
     return impl_->settings.isEmpty() ? nullptr : impl_->settings.record(0);
 }
@@ -135,6 +139,7 @@ void StoreSession::watchOthers() {
 void StoreSession::refresh() {
     try {
         impl_->context->refresh();
+        emit refreshed();
     } catch (const StoreError& error) {
         emit readingFailed(QString::fromUtf8(error.what()));
     }

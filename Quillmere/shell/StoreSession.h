@@ -48,6 +48,8 @@ public:
     [[nodiscard]] TimeFollower& time();
     [[nodiscard]] SettingsQuery& settings();
     [[nodiscard]] AdjustmentsQuery& adjustments();
+    /// Whether the history is still being read.
+    [[nodiscard]] bool isLoading() const;
 
     /// The first settings record, or nothing while there is none.
     [[nodiscard]] TimeBankSettings* settingsRecord();
@@ -64,6 +66,8 @@ signals:
     /// The adjustments query published; `steps` tells what moved. Empty steps after loading mean
     /// the whole list is new.
     void adjustmentsChanged(const std::vector<platform::store::ListStep>& steps);
+    /// A commit was taken in, by this context or another. Comes after what the queries publish.
+    void refreshed();
     /// The store could not be read or is not whole; for the log. Reading the history is tried again
     /// by itself.
     void readingFailed(const QString& reason);

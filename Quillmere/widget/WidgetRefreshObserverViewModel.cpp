@@ -46,7 +46,7 @@ void WidgetRefreshObserverViewModel::setActive(bool isActive) {
 }
 
 void WidgetRefreshObserverViewModel::update() {
-    if (session_.adjustments().state() == platform::store::LiveState::loading) {
+    if (session_.isLoading()) {
         return;
     }
     const WidgetRefreshSignature now = signature();
