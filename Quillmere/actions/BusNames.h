@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QuillmereKit/records/AppConstants.h"
+
 /// The program on the session bus. Scripts and desktops call by these names: frozen.
 namespace quillmere::BusNames {
 
@@ -10,7 +12,7 @@ inline constexpr const char* searchProviderPath = "/dev/vantor/quillmere/Actions
 inline constexpr const char* runnerPath = "/dev/vantor/quillmere/Actions/Runner";
 
 /// The application itself: its bus name, its desktop file and its icon.
-inline constexpr const char* application = "dev.vantor.quillmere";
+inline constexpr const char* application = AppConstants::applicationIdentifier.data();
 inline constexpr const char* applicationPath = "/dev/vantor/quillmere";
 inline constexpr const char* applicationName = "Quillmere";
 

@@ -1,5 +1,7 @@
 #include "Quillmere/app/InstanceService.h"
 
+#include "Quillmere/actions/BusNames.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusMessage>
@@ -12,11 +14,9 @@ namespace quillmere {
 
 namespace {
 
-const QString service = QStringLiteral("dev.vantor.quillmere");
-const QString path = QStringLiteral("/dev/vantor/quillmere");
+const QString service = QLatin1String(BusNames::application);
+const QString path = QLatin1String(BusNames::applicationPath);
 const QString interface = QStringLiteral("org.freedesktop.Application");
-const QString actions = QStringLiteral("dev.vantor.quillmere.Actions");
-const QString actionsPath = QStringLiteral("/dev/vantor/quillmere/Actions");
 
 } // namespace
 
@@ -70,8 +70,9 @@ void InstanceService::Open(const QStringList& uris, const QVariantMap& platformD
 
 void InstanceService::ActivateAction(const QString& name, const QVariantList& /*parameter*/,
                                      const QVariantMap& /*platformData*/) {
-    QDBusMessage shortcut = QDBusMessage::createMethodCall(actions, actionsPath, actions,
-                                                           QStringLiteral("RunShortcut"));
+    QDBusMessage shortcut = QDBusMessage::createMethodCall(
+        QLatin1String(BusNames::service), QLatin1String(BusNames::actionsPath),
+        QLatin1String(BusNames::actionsInterface), QStringLiteral("RunShortcut"));
     answerWhenPerformed(bus_.asyncCall(shortcut << name));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QuillmereKit/records/AppConstants.h"
+
 #include <filesystem>
 
 namespace quillmere {
@@ -10,6 +12,12 @@ struct StoreLocations {
     std::filesystem::path defaultFolder;
     /// The folder shared by the programs of the application group.
     std::filesystem::path sharedContainer;
+
+    /// Where they are for a user whose programs keep their data in `folder`.
+    [[nodiscard]] static StoreLocations within(const std::filesystem::path& folder) {
+        return {folder / AppConstants::applicationIdentifier,
+                folder / AppConstants::appGroupIdentifier};
+    }
 };
 
 } // namespace quillmere

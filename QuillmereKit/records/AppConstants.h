@@ -7,6 +7,8 @@
 /// Fixed identifiers and preference keys, all of them stored or published somewhere: frozen.
 namespace quillmere::AppConstants {
 
+/// The application's bus name, desktop file, icon and folders.
+inline constexpr std::string_view applicationIdentifier = "dev.vantor.quillmere";
 inline constexpr std::string_view appGroupIdentifier = "group.dev.vantor.quillmere";
 inline constexpr std::string_view cloudKitContainerIdentifier = "iCloud.dev.vantor.quillmere";
 
