@@ -85,15 +85,15 @@ void SessionBus::sendWritten(const Destination& destination, const std::string& 
     checked(::sd_bus_send(bus_.get(), made, nullptr), "call a method");
 }
 
-void SessionBus::serve(milliseconds idle) {
+void SessionBus::serve(milliseconds idle, const std::function<void()>& onQuiet) {
     try {
-        handleUntilQuiet(idle);
+        handleUntilQuiet(idle, onQuiet);
         // Until the bus has answered, calls still arrive here and are kept for later; from then on
         // they go to the next owner.
         for (const std::string& name : std::exchange(names_, {})) {
             checked(::sd_bus_release_name(bus_.get(), name.c_str()), "give a name back");
         }
-        handleUntilQuiet(partingTime);
+        handleUntilQuiet(partingTime, onQuiet);
     } catch (const BusError& error) {
         if (error.fault() != BusFault::disconnected) {
             throw;
@@ -101,13 +101,14 @@ void SessionBus::serve(milliseconds idle) {
     }
 }
 
-void SessionBus::handleUntilQuiet(milliseconds quiet) {
+void SessionBus::handleUntilQuiet(milliseconds quiet, const std::function<void()>& onQuiet) {
     auto end = steady_clock::now() + quiet;
     for (;;) {
         if (checked(::sd_bus_process(bus_.get(), nullptr), "handle a call") > 0) {
             end = steady_clock::now() + quiet;
             continue;
         }
+        onQuiet();
         const std::uint64_t left = microsecondsUntil(end);
         if (left == 0) {
             return;

@@ -55,8 +55,10 @@ public:
 
     /// Handles calls until none has come for `idle`; then gives the names back and handles what was
     /// on its way. A call that comes later starts the next program, so none is lost; none is
-    /// handled twice. Also returns when the bus goes away.
-    void serve(std::chrono::milliseconds idle);
+    /// handled twice. Also returns when the bus goes away. `onQuiet` is called whenever all calls
+    /// so far have been answered.
+    void serve(
+        std::chrono::milliseconds idle, const std::function<void()>& onQuiet = [] {});
 
 private:
     struct Close {
@@ -65,7 +67,7 @@ private:
 
     void sendWritten(const Destination& destination, const std::string& method,
                      const std::function<void(MessageWriter&)>& writeArguments);
-    void handleUntilQuiet(std::chrono::milliseconds quiet);
+    void handleUntilQuiet(std::chrono::milliseconds quiet, const std::function<void()>& onQuiet);
 
     std::unique_ptr<sd_bus, Close> bus_;
     std::vector<std::unique_ptr<ExportedObject>> objects_;

@@ -4,9 +4,9 @@
 #include "Quillmere/actions/ActionFailure.h"
 #include "Quillmere/actions/ActionsInterface.h"
 #include "Quillmere/actions/BusNames.h"
-#include "Quillmere/actions/BusWidgetCenter.h"
 #include "Quillmere/actions/RunnerInterface.h"
 #include "Quillmere/actions/SearchProviderInterface.h"
+#include "Quillmere/actions/SessionBusWidgetCenter.h"
 #include "Quillmere/actions/ShortcutRunner.h"
 #include "Quillmere/actions/TimeBankActions.h"
 #include "Quillmere/app/Version.h"
@@ -31,7 +31,7 @@ void complain(const std::string& words) {
 
 int serve() {
     SessionBus bus;
-    BusWidgetCenter widgets(&bus);
+    SessionBusWidgetCenter widgets(&bus);
     TimeBankActions actions(widgets);
     ShortcutRunner shortcuts(actions, &bus);
     bus.publish(BusNames::actionsPath, actionsInterface(actions, shortcuts));
@@ -41,7 +41,7 @@ int serve() {
         complain("another one serves already");
         return EXIT_SUCCESS;
     }
-    bus.serve(ActionProgram::idleTime);
+    bus.serve(ActionProgram::idleTime, [&] { actions.letGo(); });
     return EXIT_SUCCESS;
 }
 
@@ -55,7 +55,7 @@ std::unique_ptr<SessionBus> busIfAny() {
 
 int runShortcut(const std::string& id) {
     const auto bus = busIfAny();
-    BusWidgetCenter widgets(bus.get());
+    SessionBusWidgetCenter widgets(bus.get());
     TimeBankActions actions(widgets);
     ShortcutRunner shortcuts(actions, bus.get());
     int status = EXIT_SUCCESS;
@@ -69,6 +69,7 @@ int runShortcut(const std::string& id) {
         status = EXIT_FAILURE;
     }
     std::fflush(stdout);
+    actions.letGo();
     // GNOME Shell takes a notification away when its sender leaves the bus.
     if (bus) {
         bus->serve(ActionProgram::idleTime);

@@ -1,6 +1,5 @@
 #include "Quillmere/actions/TimeBankActions.h"
 
-#include "Quillmere/actions/BusNames.h"
 #include "QuillmereKit/records/AppConstants.h"
 #include "QuillmereKit/widget/WidgetSnapshotStore.h"
 
@@ -11,7 +10,7 @@ namespace quillmere {
 TimeBankActions::TimeBankActions(WidgetCenter& widgets)
     : folders_(platform::UserFolders::ofEnvironment()),
       entitlements_(platform::FileEntitlements::ofRunningProgram()),
-      preferences_(folders_.configuration() / BusNames::application),
+      preferences_(folders_.configuration() / AppConstants::applicationIdentifier),
       suite_(folders_.configuration() / AppConstants::appGroupIdentifier),
       widgets_(widgets) {
 }
@@ -32,14 +31,10 @@ std::int64_t TimeBankActions::publishedBalanceMinutes() {
 }
 
 AdjustTimeBankIntent::Services TimeBankActions::services() {
-    return {entitlements_,
-            {folders_.data() / BusNames::application,
-             folders_.data() / AppConstants::appGroupIdentifier},
-            clock_,
-            calendars_,
-            &suite_,
-            preferences_,
-            widgets_};
+    return {entitlements_, StoreLocations::within(folders_.data()),
+            clock_,        calendars_,
+            &suite_,       preferences_,
+            widgets_,      &store_};
 }
 
 } // namespace quillmere

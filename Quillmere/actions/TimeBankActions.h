@@ -9,12 +9,13 @@
 #include "QuillmereKit/widget/WidgetCenter.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace quillmere {
 
 /// The scriptable action on the running system: its clock and zone, the user's folders, and what
-/// the build is entitled to. Every call opens the store anew and lets go of it.
+/// the build is entitled to. Every call opens the store anew.
 class TimeBankActions {
 public:
     /// `widgets` must outlive the object.
@@ -28,6 +29,9 @@ public:
     /// The balance as it was last published, for runs that recorded nothing.
     [[nodiscard]] std::int64_t publishedBalanceMinutes();
 
+    /// Closes the store of the last call, for when its caller has been answered.
+    void letGo() { store_.reset(); }
+
 private:
     [[nodiscard]] AdjustTimeBankIntent::Services services();
 
@@ -38,6 +42,7 @@ private:
     platform::FilePreferences preferences_;
     platform::FilePreferences suite_;
     WidgetCenter& widgets_;
+    std::shared_ptr<platform::store::Store> store_;
 };
 
 } // namespace quillmere

@@ -1,6 +1,5 @@
 #include "QuillmereKit/actions/AdjustTimeBankIntent.h"
 
-#include "Platform/store/Store.h"
 #include "QuillmereKit/actions/AdjustmentKeyError.h"
 #include "QuillmereKit/maintenance/DataStoreMaintenance.h"
 #include "QuillmereKit/maintenance/StoredBalance.h"
@@ -22,6 +21,7 @@ using Outcome = AdjustTimeBankIntent::Outcome;
 using platform::Instant;
 using platform::store::Comparison;
 using platform::store::Context;
+using platform::store::Store;
 using Receipts = platform::store::Filter<ActionReceipt>;
 
 constexpr std::string_view kind = "manual";
@@ -65,10 +65,7 @@ public:
     /// Opens and repairs it.
     explicit Run(const AdjustTimeBankIntent::Services& services)
         : services_(services),
-          context_(QuillmerePersistence::makeContainer(
-                       false, false, RuntimeEntitlements::hasUsableAppGroup(services.entitlements),
-                       services.locations)
-                       ->makeContext({services.clock, services.calendars})),
+          context_(open(services)->makeContext({services.clock, services.calendars})),
           settings_(DataStoreMaintenance::reconcileData(*context_, context_->calendar(),
                                                         services.clock.now(), true)) {}
 
@@ -85,11 +82,9 @@ public:
     std::optional<AdjustTimeBankIntent::Booking> recordOnce(std::string_view key,
                                                             std::int64_t minutes) {
         const ActionReceipt* receipt = nullptr;
-        bool wasThere = true;
         context_->save([&] {
             receipt = findReceipt(*context_, key);
-            wasThere = receipt != nullptr;
-            if (!wasThere && isConfigured()) {
+            if (receipt == nullptr && isConfigured()) {
                 receipt = &insertWithReceipt(key, minutes);
             }
         });
@@ -99,8 +94,7 @@ public:
         if (receipt->minutes() != minutes) {
             throw AdjustmentKeyError(AdjustmentKeyError::Reason::standsForOtherAmount);
         }
-        return AdjustTimeBankIntent::Booking{receipt->recordId(), receipt->balanceMinutes(),
-                                             wasThere};
+        return AdjustTimeBankIntent::Booking{receipt->recordId(), receipt->balanceMinutes()};
     }
 
     void publish() {
@@ -112,6 +106,16 @@ public:
     }
 
 private:
+    static std::shared_ptr<Store> open(const AdjustTimeBankIntent::Services& services) {
+        auto store = QuillmerePersistence::makeContainer(
+            false, false, RuntimeEntitlements::hasUsableAppGroup(services.entitlements),
+            services.locations);
+        if (services.keeper != nullptr) {
+            *services.keeper = store;
+        }
+        return store;
+    }
+
     const ActionReceipt& insertWithReceipt(std::string_view key, std::int64_t minutes) {
         const Instant now = services_.clock.now();
         const std::int64_t before = StoredBalance(*context_)

@@ -5,11 +5,13 @@
 #include "Platform/calendar/Calendar.h"
 #include "Platform/entitlements/Entitlements.h"
 #include "Platform/preferences/Preferences.h"
+#include "Platform/store/Store.h"
 #include "QuillmereKit/persistence/StoreLocations.h"
 #include "QuillmereKit/widget/WidgetCenter.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -46,7 +48,6 @@ public:
     struct Booking {
         platform::Uuid recordId;
         std::int64_t balanceMinutes; ///< the balance right after the change was recorded
-        bool wasBookedBefore;        ///< by an earlier run with the same key
     };
 
     struct KeyedResult {
@@ -63,6 +64,9 @@ public:
         platform::Preferences* suite; ///< of the application group; null where it cannot be opened
         platform::Preferences& standard;
         WidgetCenter& widgets;
+        /// If given, keeps the store that a run opened. Closing it takes several syncs of the disk:
+        /// this way the caller can answer first.
+        std::shared_ptr<platform::store::Store>* keeper = nullptr;
     };
 
     explicit AdjustTimeBankIntent(std::int64_t minutes = defaultMinutes) : minutes_(minutes) {}

@@ -6,10 +6,10 @@
 namespace quillmere {
 
 /// Reaches those who draw widgets over a connection that the program has anyhow.
-class BusWidgetCenter final : public WidgetCenter {
+class SessionBusWidgetCenter final : public WidgetCenter {
 public:
     /// `bus` must outlive the object; null where there is none.
-    explicit BusWidgetCenter(platform::dbus::SessionBus* bus) : bus_(bus) {}
+    explicit SessionBusWidgetCenter(platform::dbus::SessionBus* bus) : bus_(bus) {}
 
     void reloadAllTimelines() override;
 

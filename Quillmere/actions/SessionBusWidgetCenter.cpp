@@ -1,8 +1,8 @@
-#include "Quillmere/actions/BusWidgetCenter.h"
+#include "Quillmere/actions/SessionBusWidgetCenter.h"
 
 namespace quillmere {
 
-void BusWidgetCenter::reloadAllTimelines() {
+void SessionBusWidgetCenter::reloadAllTimelines() {
     if (bus_ == nullptr) {
         return;
     }
