@@ -9,12 +9,15 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace platform::store::test {
+
+inline constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 inline std::string contents(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
