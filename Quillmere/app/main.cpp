@@ -1,3 +1,5 @@
+#include "Quillmere/actions/BusNames.h"
+#include "Quillmere/app/Application.h"
 #include "Quillmere/app/ApplicationOnDemand.h"
 #include "Quillmere/app/InstanceService.h"
 #include "Quillmere/app/StartRequest.h"
@@ -6,7 +8,6 @@
 #include <QtCore/QCommandLineParser>
 #include <QtDBus/QDBusConnection>
 #include <QtQuickControls2/QQuickStyle>
-#include <QtWidgets/QApplication>
 
 #include <cstdlib>
 
@@ -56,9 +57,9 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationName(QStringLiteral("quillmere"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillmere"));
     QGuiApplication::setApplicationVersion(QString::fromUtf8(quillmere::versionText));
-    QGuiApplication::setDesktopFileName(QStringLiteral("dev.vantor.quillmere"));
+    QGuiApplication::setDesktopFileName(QLatin1String(quillmere::BusNames::application));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    const QApplication application(argc, argv); // a tray item needs it
+    const quillmere::Application application(argc, argv);
     const CommandLine line = parseCommandLine(application);
 
     const QDBusConnection bus = QDBusConnection::sessionBus();
