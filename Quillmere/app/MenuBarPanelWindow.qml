@@ -12,7 +12,7 @@ T.ApplicationWindow {
     required property WindowModel model
     required property MenuBarPanel panel
 
-    title: qsTr("Quillmere")
+    title: qsTr("Quillmere time bank")
     objectName: "menuBar"
     flags: Qt.Tool | Qt.FramelessWindowHint | Qt.WindowStaysOnTopHint
     color: Theme.window

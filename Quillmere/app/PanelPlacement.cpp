@@ -23,13 +23,14 @@ int left(int width, const QRect& anchor, const QRect& available) {
     const int end = available.left() + available.width();
     int wanted = 0;
     if (!isInBarAtSide(anchor, available)) {
-        wanted = within(anchor.center().x(), available.left() + reach, end - reach) - width / 2;
+        wanted = within(anchor.center().x(), available.left() + gap + reach, end - gap - reach) -
+                 width / 2;
     } else if (anchor.center().x() < available.left()) {
         wanted = std::max(available.left(), anchor.left() + anchor.width()) + gap;
     } else {
         wanted = std::min(end, anchor.left()) - gap - width;
     }
-    return within(wanted, available.left(), end - width);
+    return within(wanted, available.left() + gap, end - gap - width);
 }
 
 int top(int height, const QRect& anchor, const QRect& available) {

@@ -40,7 +40,7 @@ QPixmap MenuBarIconEngine::pixmap(const QSize& size, QIcon::Mode /*mode*/, QIcon
 
 QList<QSize> MenuBarIconEngine::availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) {
     QList<QSize> sizes;
-    for (const int side : {16, 22, 24, 32, 44, 48, 64}) {
+    for (const int side : {16, 22, 24, 32, 44, 48, 64, 96}) {
         sizes.append(QSize(side, side));
     }
     return sizes;

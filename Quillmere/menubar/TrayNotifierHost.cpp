@@ -27,9 +27,21 @@ TrayNotifierHost::TrayNotifierHost(QDBusConnection bus, QObject* parent)
     : QObject(parent),
       bus_(std::move(bus)),
       watcher_(service, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
-    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this, &TrayNotifierHost::ask);
+    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            &TrayNotifierHost::onOwnerChanged);
+    bus_.connect({}, QStringLiteral("/org/freedesktop/DBus/Local"),
+                 QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
+                 SLOT(ask()));
     for (const char* signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"}) {
         bus_.connect(service, path, interface, QLatin1String(signal), this, SLOT(ask()));
+    }
+    ask();
+}
+
+// A new owner knows nothing of the items that the old one had, also when it follows at once.
+void TrayNotifierHost::onOwnerChanged(const QString& /*name*/, const QString& oldOwner) {
+    if (!oldOwner.isEmpty()) {
+        take(false, false);
     }
     ask();
 }

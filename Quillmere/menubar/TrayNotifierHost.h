@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QString>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusServiceWatcher>
 
@@ -30,6 +31,7 @@ private slots:
     void ask();
 
 private:
+    void onOwnerChanged(const QString& name, const QString& oldOwner);
     void take(bool isExpected, bool isPresent);
 
     QDBusConnection bus_;

@@ -21,14 +21,14 @@ TEST(PanelPlacementTest, StandsAtItsAnchorInsideTheScreenAndGrowsFromThere) {
     };
     const Case cases[] = {
         {"under a bar at the top", {900, 4, 22, 22}, underBar, {735, 36}, {723, 36}},
-        {"top right corner", {1250, 4, 22, 22}, underBar, {918, 36}, {906, 36}},
-        {"bottom right corner", {1250, 769, 22, 22}, overBar, {918, 514}, {906, 54}},
-        {"bottom left corner", {4, 769, 22, 22}, overBar, {12, 514}, {0, 54}},
+        {"top right corner", {1250, 4, 22, 22}, underBar, {912, 36}, {900, 36}},
+        {"bottom right corner", {1250, 769, 22, 22}, overBar, {912, 514}, {900, 54}},
+        {"bottom left corner", {4, 769, 22, 22}, overBar, {18, 514}, {6, 54}},
         {"beside a bar on the left", {4, 100, 22, 22}, rightOfBar, {36, 100}, {36, 94}},
         {"beside a bar on the right", {1254, 700, 22, 22}, leftOfBar, {894, 482}, {870, 22}},
         {"at the pointer", {640, 300, 1, 1}, {0, 0, 1280, 800}, {465, 307}, {453, 94}},
-        {"on the second screen", {2500, 780, 20, 20}, second, {2198, 534}, {2186, 74}},
-        {"larger than the screen", {300, 290, 10, 10}, {0, 0, 320, 230}, {0, 6}, {0, 6}},
+        {"on the second screen", {2500, 780, 20, 20}, second, {2192, 534}, {2180, 74}},
+        {"larger than the screen", {300, 290, 10, 10}, {0, 0, 320, 230}, {6, 6}, {6, 6}},
     };
     for (const Case& one : cases) {
         SCOPED_TRACE(one.name);
