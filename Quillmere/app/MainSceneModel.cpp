@@ -52,6 +52,11 @@ MainSceneModel::MainSceneModel(StoreSession& session, const Application& applica
     : QObject(parent),
       gate_(session, application.appState, application.preferences, application.prototype),
       root_(application.routes, screensOf(session, application)) {
+    connect(&gate_, &OnboardingGateViewModel::contentChanged, this, [this] {
+        if (gate_.content() != OnboardingGateViewModel::Screens) {
+            root_.leave();
+        }
+    });
 }
 
 } // namespace quillmere

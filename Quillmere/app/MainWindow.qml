@@ -39,6 +39,13 @@ T.ApplicationWindow {
         value: root.model.appearance.reducedMotion
     }
 
+    // The overlay shows while a sheet, a menu or an alert does.
+    Binding {
+        target: root.model.routes
+        property: "held"
+        value: root.T.Overlay.overlay.visible
+    }
+
     ApplicationCommands {
         id: commands
 

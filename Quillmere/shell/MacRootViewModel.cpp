@@ -1,5 +1,7 @@
 #include "Quillmere/shell/MacRootViewModel.h"
 
+#include <QtCore/QTimer>
+
 #include <utility>
 
 namespace quillmere {
@@ -22,6 +24,14 @@ QObject* MacRootViewModel::screenModel() {
         screenModel_ = screens_.at(selection_.selected()).makeModel();
     }
     return screenModel_.get();
+}
+
+// Its view is deleted when control returns to the event loop, and before that still looks at it.
+void MacRootViewModel::leave() {
+    if (QObject* old = screenModel_.release()) {
+        old->setParent(this);
+        QTimer::singleShot(0, old, &QObject::deleteLater);
+    }
 }
 
 void MacRootViewModel::onSelectedChanged() {

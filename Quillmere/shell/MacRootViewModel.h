@@ -37,6 +37,10 @@ public:
     /// Made on the first call for a route.
     [[nodiscard]] QObject* screenModel();
 
+    /// Gives the screen's model up because the frame goes: whoever comes back finds no form,
+    /// question or chosen day of before.
+    void leave();
+
 signals:
     void screenChanged();
 

@@ -1,5 +1,7 @@
 #include "Quillmere/shell/RouteSelection.h"
 
+#include <utility>
+
 namespace quillmere {
 
 namespace {
@@ -37,8 +39,18 @@ void RouteSelection::select(AppRoute route) {
     emit selectedChanged();
 }
 
+void RouteSelection::setHeld(bool isHeld) {
+    isHeld_ = isHeld;
+    if (!isHeld_ && waiting_) {
+        select(*std::exchange(waiting_, std::nullopt));
+    }
+}
+
 void RouteSelection::open(const QUrl& url) {
-    if (const auto route = AppRoutes::fromURL(url.toString(QUrl::FullyEncoded).toStdString())) {
+    const auto route = AppRoutes::fromURL(url.toString(QUrl::FullyEncoded).toStdString());
+    if (route && isHeld_) {
+        waiting_ = route;
+    } else if (route) {
         select(*route);
     }
 }

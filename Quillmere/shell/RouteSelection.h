@@ -10,6 +10,8 @@
 #include <QtQml/QQmlListProperty>
 #include <QtQml/qqmlregistration.h>
 
+#include <optional>
+
 namespace quillmere {
 
 /// Which of the four routes the main window shows, kept under "main.selectedRoute". One per
@@ -21,6 +23,9 @@ class RouteSelection : public QObject {
     /// The routes in their order.
     Q_PROPERTY(QQmlListProperty<quillmere::RouteItem> routes READ routes CONSTANT)
     Q_PROPERTY(quillmere::RouteItem* selectedItem READ selectedItem NOTIFY selectedChanged)
+    /// The window shows something over its screen. A link waits until that is closed, because what
+    /// is typed there would be lost.
+    Q_PROPERTY(bool held READ isHeld WRITE setHeld)
 
 public:
     /// `preferences` is the standard domain and must outlive the object.
@@ -34,8 +39,12 @@ public:
     /// A choice that cannot be stored still holds until the program ends.
     void select(AppRoute route);
 
+    [[nodiscard]] bool isHeld() const { return isHeld_; }
+    void setHeld(bool isHeld);
+
 public slots:
-    /// Takes a deep link. One that names no route changes nothing.
+    /// Takes a deep link; of several that have to wait the last one counts. One that names no route
+    /// changes nothing.
     void open(const QUrl& url);
 
 signals:
@@ -44,6 +53,8 @@ signals:
 private:
     platform::Preferences& preferences_;
     AppRoute selected_;
+    bool isHeld_ = false;
+    std::optional<AppRoute> waiting_;
     QList<RouteItem*> routes_;
 };
 

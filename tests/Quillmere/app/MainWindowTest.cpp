@@ -1,22 +1,13 @@
 #include "Platform/files/UserFolders.h"
-#include "Platform/log/MemoryLogSink.h"
-#include "Platform/preferences/MemoryPreferences.h"
 #include "Quillmere/app/MainSceneModel.h"
 #include "Quillmere/app/SettingsWindow.h"
+#include "Quillmere/dashboard/DashboardViewModel.h"
 #include "Quillmere/shell/PreferencesFollower.h"
-#include "Quillmere/shell/TimeFollower.h"
-#include "tests/Quillmere/shell/FakeStoreOpener.h"
-#include "tests/Quillmere/shell/NoDesktop.h"
-#include "tests/Quillmere/support/FindItem.h"
-#include "tests/Quillmere/widget/CountingWidgetCenter.h"
+#include "QuillmereKit/maintenance/DataStoreMaintenance.h"
+#include "tests/Quillmere/app/WindowFixture.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
-#include <QtQml/QQmlApplicationEngine>
-#include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
-#include <QtTest/QTest>
-
-#include <gtest/gtest.h>
 
 #include <optional>
 #include <string>
@@ -25,11 +16,10 @@
 namespace quillmere {
 namespace {
 
-/// The window of the program on stores in memory.
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public WindowFixture {
 protected:
     void show() {
-        storage_.emplace(container_, container_.make(), time_);
+        openStore();
         model_.emplace(windows(), [this](StoreSession& session) {
             return std::make_unique<MainSceneModel>(
                 session, MainSceneModel::Application{appState_, routes_, preferences_, prototype_,
@@ -40,10 +30,6 @@ protected:
         });
         QObject::connect(&*model_, &WindowModel::settingsRequested, &*settings_,
                          &SettingsWindow::open);
-        QObject::connect(&engine_, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
-            ADD_FAILURE() << warnings.first().toString().toStdString();
-        });
-        engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
         engine_.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&*model_)}});
         engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/app/MainWindow.qml")));
         ASSERT_FALSE(engine_.rootObjects().isEmpty());
@@ -54,10 +40,6 @@ protected:
         qDeleteAll(engine_.rootObjects());
         model_.reset();
         storage_.reset();
-    }
-
-    WindowModel::Application windows() {
-        return {appState_, *storage_, appearance_, routes_, {log_, {widget_, widgets_}}};
     }
 
     SettingsViewModel::Services services() {
@@ -72,16 +54,16 @@ protected:
 
     QQuickWindow& window() { return *qobject_cast<QQuickWindow*>(engine_.rootObjects().first()); }
 
-    static bool shows(const QQuickWindow& window, const char* objectName) {
-        const QString name = QLatin1String(objectName);
-        return QTest::qWaitFor([&] { return findItem(*window.contentItem(), name) != nullptr; },
-                               30'000);
-    }
+    using WindowFixture::shows;
     bool shows(const char* objectName) { return shows(window(), objectName); }
 
-    const QQuickWindow& openSettings() {
+    void activate() {
         window().requestActivate();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+    }
+
+    const QQuickWindow& openSettings() {
+        activate();
         QTest::keyClick(&window(), Qt::Key_Comma, Qt::ControlModifier);
         return *settings_->window();
     }
@@ -92,27 +74,13 @@ protected:
         ASSERT_TRUE(shows("overview.screen"));
     }
 
-    platform::MemoryLogSink log_;
-    platform::MemoryPreferences preferences_;
     platform::MemoryPreferences prototype_;
-    platform::MemoryPreferences widget_;
-    CountingWidgetCenter widgets_;
     PreferencesFollower follower_{preferences_};
     QTemporaryDir folder_;
     platform::UserFolders folders_{{}, {}, folder_.path().toStdString()};
     platform::LoginItem loginItem_{folder_.path().toStdString(), "quillmere", "Quillmere",
                                    "/bin/true"};
-    platform::SystemClock clock_;
-    TimeFollower time_{clock_};
-    NoDesktop desktop_;
-    AppearanceModel appearance_{preferences_, desktop_};
-    FakeStoreOpener opener_;
-    AppModelContainer container_{opener_, log_};
-    AppState appState_{log_};
-    RouteSelection routes_{preferences_};
-    std::optional<AppStorageController> storage_;
     std::optional<WindowModel> model_;
-    QQmlApplicationEngine engine_;
     std::optional<SettingsWindow> settings_;
 };
 
@@ -151,6 +119,30 @@ TEST_F(MainWindowTest, LetsGoOfViewsThenModelsThenTheSessionBeforeTheStoreIsOpen
     EXPECT_EQ(storage_->mode(), PersistenceMode::iCloud);
     EXPECT_EQ(opener_.attempts,
               (std::vector<std::string>{"cloud shared", "local shared", "cloud shared"}));
+}
+
+TEST_F(MainWindowTest, ALinkWaitsForTheFormThatIsOpen) {
+    show();
+    completeSetup();
+    activate();
+    auto* dashboard = qobject_cast<DashboardViewModel*>(
+        qobject_cast<MainSceneModel*>(model_->scene())->root()->screenModel());
+    dashboard->addTime();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return routes_.isHeld(); }, 30'000));
+    routes_.open(QUrl(QStringLiteral("quillmere://history")));
+    EXPECT_EQ(routes_.selected(), AppRoute::overview);
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    EXPECT_TRUE(shows("history.screen"));
+}
+
+TEST_F(MainWindowTest, NothingIsOpenFromBeforeAnErase) {
+    show();
+    completeSetup();
+    const QPointer<QObject> dashboard =
+        qobject_cast<MainSceneModel*>(model_->scene())->root()->screenModel();
+    DataStoreMaintenance::eraseAll(storage_->session()->context());
+    completeSetup();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dashboard.isNull(); }, 30'000));
 }
 
 TEST_F(MainWindowTest, SaysSoWhenNoStoreCanBeOpened) {

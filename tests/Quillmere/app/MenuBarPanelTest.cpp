@@ -1,43 +1,23 @@
 #include "Quillmere/app/MenuBarPanel.h"
 
-#include "Platform/log/MemoryLogSink.h"
-#include "Platform/preferences/MemoryPreferences.h"
 #include "Quillmere/menubar/MenuBarRootViewModel.h"
-#include "Quillmere/shell/TimeFollower.h"
-#include "tests/Quillmere/shell/FakeStoreOpener.h"
-#include "tests/Quillmere/shell/NoDesktop.h"
-#include "tests/Quillmere/support/FindItem.h"
-#include "tests/Quillmere/widget/CountingWidgetCenter.h"
+#include "tests/Quillmere/app/WindowFixture.h"
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
-#include <QtQml/QQmlEngine>
-#include <QtQuick/QQuickItem>
-#include <QtQuick/QQuickWindow>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QTest>
-
-#include <gtest/gtest.h>
 
 #include <optional>
 
 namespace quillmere {
 namespace {
 
-/// The panel on stores in memory.
-class MenuBarPanelTest : public testing::Test {
+class MenuBarPanelTest : public WindowFixture {
 protected:
     MenuBarPanel& panel() {
         if (!panel_) {
-            storage_.emplace(container_, container_.make(), time_);
-            panel_.emplace(
-                engine_,
-                WindowModel::Application{
-                    appState_, *storage_, appearance_, routes_, {log_, {widget_, widgets_}}});
-            QObject::connect(&engine_, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
-                ADD_FAILURE() << warnings.first().toString().toStdString();
-            });
-            engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+            openStore();
+            panel_.emplace(engine_, windows());
         }
         return *panel_;
     }
@@ -46,12 +26,6 @@ protected:
         panel().toggle(icon);
         EXPECT_TRUE(QTest::qWaitForWindowActive(panel().window()));
         return *panel().window();
-    }
-
-    static bool shows(const QQuickWindow& window, const char* objectName) {
-        const QString name = QLatin1String(objectName);
-        return QTest::qWaitFor([&] { return findItem(*window.contentItem(), name) != nullptr; },
-                               30'000);
     }
 
     void completeSetup() {
@@ -69,20 +43,6 @@ protected:
     }
 
     const QRect icon{20, 0, 22, 22};
-    platform::MemoryLogSink log_;
-    platform::MemoryPreferences preferences_;
-    platform::MemoryPreferences widget_;
-    CountingWidgetCenter widgets_;
-    platform::SystemClock clock_;
-    TimeFollower time_{clock_};
-    NoDesktop desktop_;
-    AppearanceModel appearance_{preferences_, desktop_};
-    FakeStoreOpener opener_;
-    AppModelContainer container_{opener_, log_};
-    AppState appState_{log_};
-    RouteSelection routes_{preferences_};
-    std::optional<AppStorageController> storage_;
-    QQmlEngine engine_;
     QWindow other_;
     std::optional<MenuBarPanel> panel_;
 };
