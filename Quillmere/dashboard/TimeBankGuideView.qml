@@ -20,6 +20,8 @@ FocusScope {
     // The only thing to press.
     Component.onCompleted: toolbar.nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
 
+    LeavingKeys {}
+
     ScrollKeys {
         id: scrollKeys
 

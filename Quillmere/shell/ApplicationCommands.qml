@@ -6,7 +6,7 @@ import Quillmere.shell
 
 // What the application menu offers, and its keys. The keys work wherever the focus is, except under a
 // sheet, a menu or an alert: there they would leave what is being typed without a word, so Escape
-// comes first. The window's own close button always works.
+// comes first; a sheet for reading has LeavingKeys. The window's own close button always works.
 Item {
     id: root
 

@@ -96,6 +96,12 @@ class Keyboard(Story):
         self.program.keys("ctrl+w")
         self.assertEqual(self.program.await_exit(), 0)
 
+    def test_the_keys_that_leave_work_over_the_guide(self):
+        self.program.press("button", "How Quillmere works")
+        self.await_focus("button", "Done")
+        self.program.keys("ctrl+q")
+        self.assertEqual(self.program.await_exit(), 0)
+
 
 if __name__ == "__main__":
     unittest.main()
