@@ -1,5 +1,6 @@
 #include "Quillmere/app/QuillmereMacApp.h"
 
+#include "Quillmere/actions/BusNames.h"
 #include "Quillmere/app/Version.h"
 #include "Quillmere/settings/AppVersion.h"
 #include "QuillmereKit/records/AppConstants.h"
@@ -21,13 +22,7 @@ namespace quillmere {
 namespace {
 
 const QString windowIcon = QStringLiteral(":/qt/qml/Quillmere/app/icon.svg");
-constexpr const char* desktopId = "dev.vantor.quillmere";
-constexpr const char* programName = "Quillmere";
 const QString deepLinkScheme = QStringLiteral("quillmere");
-
-StoreLocations locationsIn(const platform::UserFolders& folders) {
-    return {folders.data() / "dev.vantor.quillmere", folders.data() / "group.dev.vantor.quillmere"};
-}
 
 // The first text needs the list of the system's fonts, which is long in the making: meanwhile the
 // program gets on.
@@ -41,10 +36,10 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
     : QObject(parent),
       bus_(bus),
       folders_(platform::UserFolders::ofEnvironment()),
-      preferences_(folders_.configuration() / "dev.vantor.quillmere"),
+      preferences_(folders_.configuration() / AppConstants::applicationIdentifier),
       prototype_(folders_.configuration() / "dev.vantor.Quillmere"),
       suite_(folders_.configuration() / AppConstants::appGroupIdentifier),
-      loginItem_(folders_.configuration(), desktopId, programName,
+      loginItem_(folders_.configuration(), BusNames::application, BusNames::applicationName,
                  std::filesystem::read_symlink("/proc/self/exe")),
       entitlements_(platform::FileEntitlements::ofRunningProgram()),
       widgetCenter_(bus),
@@ -52,7 +47,7 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       desktop_(bus),
       appearance_(preferences_, desktop_),
       time_(clock_),
-      opener_(entitlements_, locationsIn(folders_)),
+      opener_(entitlements_, StoreLocations::within(folders_.data())),
       container_(opener_, log_),
       appState_(log_),
       storage_(container_, container_.make(), time_),
@@ -126,7 +121,7 @@ void QuillmereMacApp::raise(const QString& token) {
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8()); // where Qt's Wayland platform looks for it
     }
     window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
-    window->show();
+    window->setVisible(true); // show() would make a maximized window an ordinary one
     window->raise();
     window->requestActivate();
     qunsetenv("XDG_ACTIVATION_TOKEN");

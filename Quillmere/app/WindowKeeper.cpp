@@ -8,6 +8,16 @@
 
 namespace quillmere {
 
+namespace {
+
+// Neither panel nor menu.
+bool isWindowOfItsOwn(QObject* object) {
+    const auto* window = qobject_cast<QWindow*>(object);
+    return window != nullptr && (window->type() == Qt::Window || window->type() == Qt::Dialog);
+}
+
+} // namespace
+
 WindowKeeper::WindowKeeper(const QuillmereMacAppDelegate& delegate,
                            std::function<bool()> isOutOfReach, QObject* parent)
     : QObject(parent), delegate_(delegate), isOutOfReach_(std::move(isOutOfReach)) {
@@ -18,8 +28,6 @@ WindowKeeper::WindowKeeper(const QuillmereMacAppDelegate& delegate,
 
 void WindowKeeper::keep(QWindow& mainWindow) {
     mainWindow_ = &mainWindow;
-    connect(mainWindow_, &QWindow::visibleChanged, this,
-            [this](bool isVisible) { isHidden_ = isHidden_ && !isVisible; });
 }
 
 void WindowKeeper::check() {
@@ -32,11 +40,29 @@ void WindowKeeper::check() {
 bool WindowKeeper::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Quit && watched == qGuiApp) {
         isLeaving_ = true;
-    } else if (event->type() == QEvent::Close && watched == mainWindow_ && refusesToClose()) {
-        event->ignore();
-        return true;
+    } else if (event->type() == QEvent::Show && isWindowOfItsOwn(watched)) {
+        isHidden_ = false;
+        if (watched == mainWindow_) {
+            putBack();
+        }
+    } else if (event->type() == QEvent::Close && watched == mainWindow_) {
+        if (refusesToClose()) {
+            event->ignore();
+            return true;
+        }
+        place_ = mainWindow_->framePosition();
     }
     return false;
+}
+
+// Otherwise window managers look for a new place, as for any window that appears.
+void WindowKeeper::putBack() {
+    const auto place = std::exchange(place_, std::nullopt);
+    const bool isOrdinary =
+        (mainWindow_->windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen)) == 0;
+    if (place && isOrdinary && QGuiApplication::screenAt(*place) != nullptr) {
+        mainWindow_->setFramePosition(*place);
+    }
 }
 
 bool WindowKeeper::refusesToClose() const {

@@ -3,8 +3,10 @@
 #include "Quillmere/shell/QuillmereMacAppDelegate.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QPoint>
 
 #include <functional>
+#include <optional>
 
 class QWindow;
 
@@ -36,11 +38,13 @@ signals:
 private:
     void onLastWindowClosed();
     [[nodiscard]] bool refusesToClose() const;
+    void putBack();
 
     const QuillmereMacAppDelegate& delegate_;
     std::function<bool()> isOutOfReach_;
     QWindow* mainWindow_ = nullptr;
-    bool isHidden_ = false; ///< runs on without a window of its own
+    std::optional<QPoint> place_; ///< of the main window while it is hidden
+    bool isHidden_ = false;       ///< runs on without a window; the panel counts for none
     bool isLeaving_ = false;
 };
 

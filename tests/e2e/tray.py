@@ -5,7 +5,8 @@ import time
 import unittest
 
 from story import Story
-from tray_host import Tray
+
+from desktop.tray import Tray
 
 SOON = 8  # seconds, in which a program starts
 DAY = 86400
@@ -100,17 +101,22 @@ class Panel(TrayStory):
 class Closing(TrayStory):
     def test_the_window_hides_and_comes_back(self):
         program, item = self.start_in_tray(closeWindowToMenuBar=True)
+        program.move(60, 90)
         ways = {
             "the menu": lambda: item.choose("Open app"),
             "a second start": lambda: self.assertEqual(self.start().await_exit(), 0),
             "a link": lambda: self.assertEqual(self.start("quillmere://history").await_exit(), 0),
         }
         for name, come_back in ways.items():
+            if name == "a link":
+                program.maximize()
             with self.subTest(name):
+                place = program.geometry()
                 self.close_window(program)
                 self.await_hidden(program)
                 come_back()
                 program.await_active()
+                self.assertEqual(program.geometry(), place)
         program.await_route("Activity")
         self.close_window(program)
         self.await_hidden(program)

@@ -122,6 +122,15 @@ class Program:
     def resize(self, width, height):
         self._xdotool("windowsize", "--sync", self.window(), width, height)
 
+    def move(self, left, top):
+        self._xdotool("windowmove", "--sync", self.window(), left, top)
+
+    def maximize(self):
+        """As a double click on the title does."""
+        left, top, width, _ = before = self.geometry()
+        self._xdotool("mousemove", left + width // 2, top - 8, "click", "--repeat", 2, 1)
+        self.await_true(lambda: self.geometry() != before, "the window is maximized")
+
     def geometry(self, window=None):
         """Left, top, width and height of a window, the main one unless said, in pixels."""
         answer = subprocess.run(["xwininfo", "-id", window or self.window()], env=self.desktop.environment,

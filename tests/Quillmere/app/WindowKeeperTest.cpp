@@ -91,14 +91,19 @@ TEST_F(WindowKeeperTest, AnotherWindowThatIsLeftAloneCountsAsTheLast) {
     EXPECT_EQ(quits_.count(), 0);
 }
 
-TEST_F(WindowKeeperTest, APanelThatClosesOverAHiddenProgramDecidesNothing) {
+TEST_F(WindowKeeperTest, OverAHiddenProgramAPanelThatClosesDecidesNothingAWindowDoes) {
     closesToTray(true);
     close(window_);
     closesToTray(false);
     QWindow panel;
+    panel.setFlags(Qt::Tool);
     panel.show();
     close(panel);
     EXPECT_EQ(quits_.count(), 0);
+    QWindow settings;
+    settings.show();
+    close(settings);
+    EXPECT_EQ(quits_.count(), 1) << "nothing but the tray item would be left, unasked for";
 }
 
 TEST_F(WindowKeeperTest, AKeptWindowDoesNotStandInTheWayOfQuitting) {

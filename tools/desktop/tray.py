@@ -2,8 +2,9 @@
 does there. Read and driven as panels do it (StatusNotifierItem and com.canonical.dbusmenu)."""
 import threading
 
-from desktop.waiting import eventually
 from gi.repository import Gio, GLib
+
+from .waiting import eventually
 
 WATCHER = "org.kde.StatusNotifierWatcher"
 ITEM = "org.kde.StatusNotifierItem"
