@@ -90,7 +90,7 @@ Item {
                 compare(focusedName(), name);
                 const item = window.Window.activeFocusItem;
                 const top = item.mapToItem(window, 0, 0).y;
-                verify(top >= 0 && top + item.height <= window.height, name + " is in sight");
+                verify(item.width > 0 && top >= 0 && top + item.height <= window.height, name + " is in sight");
                 keyClick(Qt.Key_Tab);
             }
         }
