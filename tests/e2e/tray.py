@@ -6,6 +6,7 @@ import unittest
 
 from story import Story
 
+from desktop import children
 from desktop.tray import Tray
 
 SOON = 8  # seconds, in which a program starts
@@ -13,9 +14,12 @@ DAY = 86400
 
 
 class TrayStory(Story):
+    has_watcher = True
+
     def setUp(self):
         super().setUp()
-        self.tray = self.enterContext(Tray(self.desktop))
+        if self.has_watcher:
+            self.tray = self.enterContext(Tray(self.desktop))
 
     def prefer(self, **values):
         """Changes preferences as another program would."""
@@ -166,6 +170,22 @@ class Closing(TrayStory):
         self.await_hidden(program)
         program.process.send_signal(signal.SIGTERM)
         self.assertEqual(program.await_exit(), 0)
+
+
+class Embedding(TrayStory):
+    has_watcher = False
+
+    def test_a_tray_of_a_small_panel_holds_the_item_too(self):
+        tray = children.start(["trayer"], env=self.desktop.environment)
+        self.addCleanup(children.stop, tray)
+        self.prefer(closeWindowToMenuBar=True)
+        program = self.start_on_dashboard()
+        main = program.window()
+        program.await_true(lambda: program.windows(other_than=main), "the item is there")
+        self.close_window(program)
+        self.await_hidden(program)
+        children.stop(tray)
+        program.await_active()
 
 
 if __name__ == "__main__":
