@@ -6,15 +6,17 @@
 #include <QtGui/QKeyEvent>
 #include <QtQml/QQmlProperty>
 
-#include <chrono>
 #include <utility>
 
 namespace quillmere {
 
 namespace {
 
-/// Longer than any desktop waits before it repeats a key.
-constexpr std::chrono::milliseconds repeatLimit(1000);
+// The Enter that opened the dialog may still be down.
+bool isHeldEnter(const QKeyEvent& press) {
+    const bool isEnter = press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+    return isEnter && press.isAutoRepeat();
+}
 
 } // namespace
 
@@ -30,7 +32,6 @@ void DialogNameField::begin() {
     folder_ = folder();
     setName(selectedFile().fileName());
     isFresh_ = true;
-    sinceEnter_.start();
     takeKeyboard();
 }
 
@@ -57,21 +58,8 @@ bool DialogNameField::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusOut) {
         isFresh_ &= static_cast<QFocusEvent*>(event)->reason() == Qt::OtherFocusReason;
     }
-    return (event->type() == QEvent::KeyPress && isHeldEnter(*event)) ||
+    return (event->type() == QEvent::KeyPress && isHeldEnter(*static_cast<QKeyEvent*>(event))) ||
            QObject::eventFilter(watched, event);
-}
-
-// The Enter that opened the dialog may still be down, and a busy display does not say that it
-// repeats a key.
-bool DialogNameField::isHeldEnter(const QEvent& press) {
-    const int key = static_cast<const QKeyEvent&>(press).key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
-        sinceEnter_.invalidate();
-        return false;
-    }
-    const bool isHeld = sinceEnter_.isValid() && !sinceEnter_.hasExpired(repeatLimit.count());
-    sinceEnter_.start();
-    return isHeld;
 }
 
 void DialogNameField::onEdited() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QUrl>
@@ -40,7 +39,6 @@ private slots:
 
 private:
     void takeKeyboard();
-    [[nodiscard]] bool isHeldEnter(const QEvent& event);
     [[nodiscard]] QString name() const;
     void setName(const QString& name);
     [[nodiscard]] QUrl folder() const;
@@ -52,7 +50,6 @@ private:
     QUrl folder_;
     bool isFresh_ = false;
     bool isSelecting_ = false;
-    QElapsedTimer sinceEnter_;
 };
 
 } // namespace quillmere
