@@ -172,10 +172,10 @@ class Action(unittest.TestCase):
             path.parent.rmdir()
             path.parent.touch()
 
-        cases = {"Foreign": other_program, "NewerSchema": newer, "Damaged": cut_off,
-                 "CannotOpen": no_folder, "InputOutput": Path.mkdir}
-        for fault, spoil in cases.items():
-            with self.subTest(fault):
+        for fault, spoil in [("Foreign", other_program), ("NewerSchema", newer),
+                             ("Damaged", cut_off), ("CannotOpen", no_folder),
+                             ("CannotOpen", Path.mkdir)]:
+            with self.subTest(fault, way=spoil.__name__):
                 self.store.parent.mkdir(mode=0o700, exist_ok=True)
                 spoil(self.store)
                 self.assertIn(f"dev.vantor.quillmere.Error.{fault}: The ", self.adjust(30))
