@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.composer
 import Quillmere.controls
 import Quillmere.theme
 

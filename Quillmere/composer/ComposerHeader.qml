@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import Quillmere.composer
 import Quillmere.controls
 import Quillmere.theme
 

@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.controls
 import Quillmere.theme
 
 // A hairline; give it the length of its line.

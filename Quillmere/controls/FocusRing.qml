@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.controls
 import Quillmere.theme
 
 // Shows where the keyboard is: a line around its parent's edge with a glow outside of it. Give it the

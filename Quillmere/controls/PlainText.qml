@@ -1,5 +1,4 @@
 import QtQuick
-import Quillmere.controls
 import Quillmere.theme
 
 // Text as everywhere in the application: the theme's colour and font, never interpreted as markup.

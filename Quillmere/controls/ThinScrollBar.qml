@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import Quillmere.controls
 import Quillmere.theme
 
 // A scroll bar that is there while one scrolls or points at it.

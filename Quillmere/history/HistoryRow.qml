@@ -2,7 +2,6 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillmere.controls
 import Quillmere.dashboard
-import Quillmere.history
 import Quillmere.theme
 
 // One change of the list, under the title of its day where it is the day's first. The rows of a day

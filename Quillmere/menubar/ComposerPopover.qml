@@ -1,7 +1,6 @@
 import QtQuick
 import Quillmere.composer
 import Quillmere.controls
-import Quillmere.menubar
 import Quillmere.theme
 
 // The form in a popover whose tip points at what opened it: under it, or over it where it

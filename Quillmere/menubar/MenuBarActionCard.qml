@@ -1,6 +1,5 @@
 import QtQuick
 import Quillmere.controls
-import Quillmere.menubar
 import Quillmere.theme
 
 // One of the two ways to record a change. `selected` while its form is open.

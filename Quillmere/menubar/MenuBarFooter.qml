@@ -1,6 +1,5 @@
 import QtQuick
 import Quillmere.controls
-import Quillmere.menubar
 import Quillmere.theme
 
 // The ways out of the panel.

@@ -1,7 +1,6 @@
 import QtQuick
 import Quillmere.controls
 import Quillmere.dashboard
-import Quillmere.menubar
 import Quillmere.shell
 import Quillmere.theme
 

@@ -1,6 +1,5 @@
 import QtQuick
 import Quillmere.controls
-import Quillmere.menubar
 import Quillmere.theme
 
 // The tray panel before there is a time bank.

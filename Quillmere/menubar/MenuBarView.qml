@@ -1,7 +1,5 @@
 import QtQuick
-import Quillmere.controls
 import Quillmere.menubar
-import Quillmere.shell
 import Quillmere.theme
 
 // The tray panel: the balance, the two ways to record a change with the form that they open, and the

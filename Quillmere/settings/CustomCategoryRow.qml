@@ -1,6 +1,5 @@
 import QtQuick
 import Quillmere.controls
-import Quillmere.settings
 import Quillmere.theme
 
 // A category of the user's own, which can be removed.

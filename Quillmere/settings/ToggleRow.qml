@@ -1,6 +1,5 @@
 import QtQuick
 import Quillmere.controls
-import Quillmere.settings
 
 // A row that is on or off; a press anywhere in it changes that. `identifier` is the switch's.
 FormRow {

@@ -1,7 +1,6 @@
 import QtQuick
 import QtTest
 import Quillmere.test
-import Quillmere.controls
 import Quillmere.editor
 import Quillmere.theme
 
