@@ -144,9 +144,10 @@ void QuillmereMacApp::onFirstFrame() {
     connect(menuBarExtra_.get(), &MenuBarExtra::quitRequested, qGuiApp, &QGuiApplication::quit);
 }
 
-// Not over a window that the user has gone to meanwhile.
+// Not over a window that the user has gone to meanwhile, nor when they put this one out of the way.
 void QuillmereMacApp::finishStart() {
-    if (QGuiApplication::focusWindow() == nullptr) {
+    const bool isMinimized = (window_->windowStates() & Qt::WindowMinimized) != 0;
+    if (QGuiApplication::focusWindow() == nullptr && !isMinimized) {
         raise(QString());
     }
 }
