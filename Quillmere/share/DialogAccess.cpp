@@ -77,7 +77,19 @@ void tell(QObject& accessible, const QQuickItem& item) {
     }
 }
 
-void tendTo(QQuickItem& item) {
+void colour(QQuickItem& item, QObject& palette) {
+    // Controls within a plain item do not inherit it.
+    item.setProperty("palette", QVariant::fromValue(&palette));
+    // The path stands on white, whatever the palette.
+    if (item.inherits("QQuickFolderBreadcrumbBar")) {
+        if (auto* background = item.property("background").value<QQuickItem*>()) {
+            background->setProperty("color", palette.property("base"));
+        }
+    }
+}
+
+void tendTo(QQuickItem& item, QObject& palette) {
+    colour(item, palette);
     // There is none while no assistive technology is there, and Qt gives rows of the list two.
     for (QObject* child : item.children()) {
         if (child->inherits("QQuickAccessibleAttached")) {
@@ -85,7 +97,7 @@ void tendTo(QQuickItem& item) {
         }
     }
     for (QQuickItem* child : item.childItems()) {
-        tendTo(*child);
+        tendTo(*child, palette);
     }
 }
 
@@ -96,17 +108,24 @@ DialogAccess::DialogAccess(QObject* parent) : QObject(parent) {
 
 DialogAccess::~DialogAccess() = default;
 
-void DialogAccess::open(QQuickWindow* window) {
+void DialogAccess::open(QQuickWindow* window, QObject* palette) {
     popup_ = fileDialogOver(*window);
     if (!popup_) {
         return;
     }
-    tendTo(*popup_);
+    palette_ = palette;
+    tendToAll();
     if (auto* rows = partOf(*popup_, listName)->property("contentItem").value<QQuickItem*>()) {
         connect(rows, &QQuickItem::childrenChanged, this, &DialogAccess::onRowsMade,
                 Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
     }
     tendNameField();
+}
+
+void DialogAccess::tendToAll() {
+    if (popup_ && palette_) {
+        tendTo(*popup_, *palette_);
+    }
 }
 
 void DialogAccess::tendNameField() {
@@ -123,18 +142,14 @@ void DialogAccess::tendNameField() {
 }
 
 void DialogAccess::follow() {
-    if (popup_) {
-        tendTo(*popup_);
-    }
+    tendToAll();
     if (nameField_) {
         nameField_->follow();
     }
 }
 
 void DialogAccess::onRowsMade() {
-    if (popup_) {
-        tendTo(*popup_);
-    }
+    tendToAll();
     if (nameField_) {
         nameField_->keepKeyboard();
     }

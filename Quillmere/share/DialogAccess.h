@@ -22,17 +22,19 @@ public:
     explicit DialogAccess(QObject* parent = nullptr);
     ~DialogAccess() override;
 
-    /// To be called when the dialog has opened over the window's content. Does nothing when that is
-    /// the desktop's own.
-    Q_INVOKABLE void open(QQuickWindow* window);
+    /// To be called when the dialog has opened over the window's content, with the Palette for it.
+    /// Does nothing when that is the desktop's own.
+    Q_INVOKABLE void open(QQuickWindow* window, QObject* palette);
     /// To be called when the dialog shows another folder.
     Q_INVOKABLE void follow();
 
 private:
     void onRowsMade();
+    void tendToAll();
     void tendNameField();
 
     QPointer<QQuickItem> popup_;
+    QPointer<QObject> palette_;
     std::unique_ptr<DialogNameField> nameField_;
 };
 
