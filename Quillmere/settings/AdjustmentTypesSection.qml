@@ -10,6 +10,9 @@ FormSection {
 
     required property AdjustmentTypesViewModel model
 
+    // The part that has the keyboard now stands elsewhere.
+    signal keyboardMoved(part: Item)
+
     title: qsTr("Adjustment types")
     footer: qsTr("Choose the built-in categories shown in the activity editor, or add your own. Removing a custom category never changes existing activities.")
 
@@ -64,6 +67,10 @@ FormSection {
     FormRow {
         contentInset: 9
         Accessible.ignored: true
+        onYChanged: {
+            if (name.activeFocus)
+                root.keyboardMoved(name);
+        }
 
         NewCategoryField {
             id: name

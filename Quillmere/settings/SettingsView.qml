@@ -57,6 +57,7 @@ FocusScope {
         AdjustmentTypesSection {
             width: parent.width
             model: root.model.adjustmentTypes
+            onKeyboardMoved: part => page.reveal(part)
         }
 
         MacSection {

@@ -44,6 +44,11 @@ Item {
             return window.Window.activeFocusItem.objectName;
         }
 
+        function isInSight(item) {
+            const top = item.mapToItem(window, 0, 0).y;
+            return item.visible && top >= 0 && top + item.height <= window.height;
+        }
+
         function cleanup() {
             const types = shown.model.adjustmentTypes;
             while (types.customCategories.rowCount() > 0)
@@ -98,13 +103,8 @@ Item {
         function test_aRetryThatFailedIsInSight() {
             shown.model.retryICloud();
             tryVerify(() => focusedName() === "settings.retryICloud");
-            for (const name of ["settings.retryICloud", "settings.iCloudRetryFeedback"]) {
-                const item = part(name);
-                tryVerify(() => {
-                    const top = item.mapToItem(window, 0, 0).y;
-                    return item.visible && top >= 0 && top + item.height <= window.height;
-                }, 5000, name);
-            }
+            for (const name of ["settings.retryICloud", "settings.iCloudRetryFeedback"])
+                tryVerify(() => isInSight(part(name)), 5000, name);
         }
 
         function test_switchesByKeyboardAndAnywhereInTheRow() {
@@ -151,6 +151,14 @@ Item {
             verify(name.activeFocus);
             keyClick(Qt.Key_Return);
             compare(shown.model.adjustmentTypes.customCategories.rowCount(), 1, "once, also when held down");
+        }
+
+        function test_theFieldForCategoriesStaysInSight() {
+            const name = part("settings.customAdjustmentCategory.name");
+            for (let row = 0; row < 12; ++row) {
+                add("Category " + row);
+                tryVerify(() => isInSight(name), 5000, "after row " + row);
+            }
         }
     }
 }
