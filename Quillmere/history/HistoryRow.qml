@@ -21,7 +21,6 @@ FocusScope {
 
     readonly property bool current: ListView.isCurrentItem
     readonly property int edge: 5
-    readonly property int reach: 40
 
     signal pressed(modifiers: int)
     signal menuRequested(position: point)
@@ -59,28 +58,10 @@ FocusScope {
         width: root.width
         height: row.height + (root.firstOfDay ? root.edge : 0) + (root.lastOfDay ? root.edge : 0)
 
-        // The card reaches beyond the row where the day goes on, and its shadow where it ends.
-        Item {
-            x: -root.reach
-            y: root.firstOfDay ? -root.reach : 0
-            width: parent.width + 2 * root.reach
-            height: parent.height + (root.firstOfDay ? root.reach : 0) + (root.lastOfDay ? root.reach : 0)
-            clip: true
-
-            Surface {
-                readonly property real longer: row.height + 2 * root.reach
-
-                x: root.reach
-                y: root.firstOfDay ? root.reach : root.lastOfDay ? card.height - height : -root.reach
-                width: card.width
-                height: root.firstOfDay && root.lastOfDay ? card.height : longer
-                color: Theme.card
-                borderColor: Theme.hairline
-                radius: Theme.cardRadius
-                shadowColor: Theme.shadow
-                shadowBlur: 14
-                shadowOffset: 4
-            }
+        CardPart {
+            anchors.fill: parent
+            first: root.firstOfDay
+            last: root.lastOfDay
         }
 
         Divider {

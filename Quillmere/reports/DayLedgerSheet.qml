@@ -18,7 +18,7 @@ FocusScope {
     objectName: "calendar.dayDetail"
     implicitWidth: Math.max(460, toolbar.implicitWidth)
     // Grows with its list; the sheet keeps within the window.
-    implicitHeight: Math.max(460, changes.y + changes.contentHeight + changes.bottomMargin)
+    implicitHeight: Math.max(460, changes.y + changes.topMargin + changes.contentHeight + changes.bottomMargin)
     Accessible.role: Accessible.Dialog
     Accessible.name: root.model.title
     Keys.forwardTo: [scrollKeys]
@@ -72,7 +72,8 @@ FocusScope {
         anchors.top: summary.bottom
         anchors.bottom: parent.bottom
         width: parent.width
-        bottomMargin: Theme.spaceM
+        topMargin: Theme.spaceS
+        bottomMargin: Theme.spaceL
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         model: root.model.changes
@@ -80,17 +81,33 @@ FocusScope {
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Changes")
 
-        delegate: LedgerTransactionRow {
-            id: row
+        delegate: CardPart {
+            id: part
 
             required property int index
+            required property ledgerTransaction transaction
 
+            readonly property int edge: 3
+
+            first: part.index === 0
+            last: part.index === changes.count - 1
             x: Theme.spaceL
             width: changes.width - 2 * x
+            height: row.height + (part.first ? part.edge : 0) + (part.last ? part.edge : 0)
+
+            LedgerTransactionRow {
+                id: row
+
+                x: Theme.spaceL
+                y: part.first ? part.edge : 0
+                width: parent.width - 2 * x
+                transaction: part.transaction
+            }
 
             Divider {
-                width: parent.width
-                visible: row.index > 0
+                x: row.x
+                width: row.width
+                visible: !part.first
             }
         }
     }
