@@ -153,6 +153,21 @@ class Closing(TrayStory):
         program.await_active()
         self.quit(program)
 
+    def test_a_watcher_that_takes_over_gets_the_item(self):
+        self.start_in_tray()
+        successor = self.enterContext(Tray(self.desktop))
+        successor.show()
+        self.assertEqual(successor.item().tooltip, "Quillmere time bank: plus 0 hours, 0 minutes")
+
+    def test_the_window_comes_back_when_the_bus_dies(self):
+        program, _ = self.start_in_tray(closeWindowToMenuBar=True)
+        main = program.window()
+        self.close_window(program)
+        self.await_hidden(program)
+        self.desktop.crash_bus()
+        # Another window of the display's; the hidden one was given up.
+        self.assertTrue(program.windows(other_than=main))
+
     def test_without_the_item_a_second_start_is_the_way_back(self):
         self.prefer(closeWindowToMenuBar=True, showMenuBarExtra=False)
         self.tray.show()

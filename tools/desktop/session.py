@@ -51,6 +51,9 @@ class Session:
         """A connection of its own to the session bus."""
         return self._connect(self.environment["DBUS_SESSION_BUS_ADDRESS"])
 
+    def crash_bus(self):
+        self._bus_daemon.kill()
+
     def _open(self):
         self.services.mkdir(parents=True, exist_ok=True)
         self.bus = self._start_bus()
@@ -84,7 +87,8 @@ class Session:
         mine, theirs = os.pipe()
         words = ["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--print-address={theirs}",
                  f"--address=unix:dir={self.home / 'runtime'}"]
-        self._processes.append(self._start(words, env=self.environment, pass_fds=[theirs]))
+        self._bus_daemon = self._start(words, env=self.environment, pass_fds=[theirs])
+        self._processes.append(self._bus_daemon)
         os.close(theirs)
         with os.fdopen(mine) as answer:
             address = answer.readline().strip()

@@ -10,6 +10,7 @@ WATCHER = "org.kde.StatusNotifierWatcher"
 ITEM = "org.kde.StatusNotifierItem"
 MENU = "com.canonical.dbusmenu"
 CALL_LIMIT_MILLISECONDS = 10_000
+TAKE_OVER = 0x1 | 0x2  # may be replaced, and replaces
 INTERFACE = f"""<node><interface name="{WATCHER}">
   <method name="RegisterStatusNotifierItem"><arg type="s" direction="in"/></method>
   <property name="IsStatusNotifierHostRegistered" type="b" access="read"/>
@@ -61,8 +62,8 @@ class TrayItem:
 
 
 class Tray:
-    """Use as a context manager: the watcher is there within. Hosts come and go with `show` and
-    `hide`, as a panel that is started and stopped."""
+    """Use as a context manager: the watcher is there within, and takes over from one that was there.
+    Hosts come and go with `show` and `hide`, as a panel that is started and stopped."""
 
     def __init__(self, desktop):
         self.bus = desktop.connect()
@@ -76,13 +77,14 @@ class Tray:
     def __enter__(self):
         self._thread.start()
         self._ready.wait()
-        self._name("RequestName", GLib.Variant("(su)", (WATCHER, 0)))
+        self._name("RequestName", GLib.Variant("(su)", (WATCHER, TAKE_OVER)))
         return self
 
     def __exit__(self, *_):
         self._loop.quit()
         self._thread.join()
-        self.bus.close_sync(None)
+        if not self.bus.is_closed():
+            self.bus.close_sync(None)
 
     def show(self):
         self._shown = True
@@ -100,7 +102,7 @@ class Tray:
 
     def start_again(self):
         self._shown = True
-        self._name("RequestName", GLib.Variant("(su)", (WATCHER, 0)))
+        self._name("RequestName", GLib.Variant("(su)", (WATCHER, TAKE_OVER)))
 
     def item(self):
         """The only item; waits for it."""
