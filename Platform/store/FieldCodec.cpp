@@ -72,8 +72,10 @@ void readField(const Statement& statement, int column, Uuid& value) {
 }
 
 void readField(const Statement& statement, int column, Instant& value) {
-    value.secondsSince1970 = statement.isBlob(column) ? std::numeric_limits<double>::quiet_NaN()
-                                                      : statement.real(column);
+    value.secondsSince1970 = statement.real(column);
+    if (value.secondsSince1970 == 0 && statement.isBlob(column)) {
+        value.secondsSince1970 = std::numeric_limits<double>::quiet_NaN();
+    }
 }
 
 void readField(const Statement& statement, int column, std::optional<Instant>& value) {
