@@ -84,14 +84,6 @@ std::int64_t Database::integer(std::string_view sql) {
     return row.step() ? row.integer(0) : 0;
 }
 
-std::int64_t Database::lastInsertKey() const {
-    return sqlite3_last_insert_rowid(handle_.get());
-}
-
-int Database::changedRows() const {
-    return sqlite3_changes(handle_.get());
-}
-
 bool Database::isInTransaction() const {
     return sqlite3_get_autocommit(handle_.get()) == 0;
 }

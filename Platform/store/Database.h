@@ -45,9 +45,6 @@ public:
     /// First column of the first row.
     [[nodiscard]] std::int64_t integer(std::string_view sql);
 
-    [[nodiscard]] std::int64_t lastInsertKey() const;
-    /// Rows concerned by the latest statement.
-    [[nodiscard]] int changedRows() const;
     [[nodiscard]] bool isInTransaction() const;
     /// Whether the file was moved, deleted or replaced since it was opened.
     [[nodiscard]] bool hasMoved() const;

@@ -9,6 +9,10 @@ namespace platform::store {
 
 namespace {
 
+// Beginning and ending a statement costs SQLite more than writing a row does, so where there are
+// many rows they share statements.
+constexpr std::size_t rowsAtOnce = 64;
+
 constexpr auto hasUnsaved = [](const RecordBase* record) { return record->hasUnsavedChanges(); };
 
 std::string joined(const std::vector<Column>& columns) {
@@ -20,12 +24,13 @@ std::string joined(const std::vector<Column>& columns) {
     return names;
 }
 
-std::string placeholders(std::size_t count) {
-    std::string marks;
+/// "part, part, part"
+std::string repeated(const std::string& part, std::size_t count) {
+    std::string list;
     for (std::size_t i = 0; i < count; ++i) {
-        marks += i == 0 ? "?" : ", ?";
+        list += i == 0 ? part : ", " + part;
     }
-    return marks;
+    return list;
 }
 
 std::int64_t number(RowKey key) {
@@ -35,15 +40,17 @@ std::int64_t number(Revision revision) {
     return static_cast<std::int64_t>(revision);
 }
 
+RowKey after(RowKey key) {
+    return RowKey{number(key) + 1};
+}
+
 } // namespace
 
 TypeStorage::TypeStorage(Database& database, TableDescription table)
     : database_(database),
       table_(std::move(table)),
       name_(table_.name),
-      columns_(joined(table_.columns)),
-      insertSql_("INSERT INTO " + name_ + " (" + columns_ + ", revision, row_key) VALUES (" +
-                 placeholders(table_.columns.size() + 2) + ")") {
+      columns_(joined(table_.columns)) {
 }
 
 TypeStorage::~TypeStorage() = default;
@@ -58,10 +65,8 @@ bool TypeStorage::hasChanges() const {
 }
 
 RecordBase* TypeStorage::known(RowKey key) const {
-    const auto entry = identities_.find(key);
-    return entry == identities_.end() || entry->second->state() == RecordState::detached
-               ? nullptr
-               : entry->second;
+    RecordBase* record = identities_.find(key);
+    return record == nullptr || record->state() == RecordState::detached ? nullptr : record;
 }
 
 Statement TypeStorage::select(const std::vector<Condition>& conditions) const {
@@ -103,7 +108,7 @@ Statement TypeStorage::selectDeletions(Revision after) const {
 
 RecordBase& TypeStorage::own(std::unique_ptr<RecordBase> record, RowKey key, RecordState state) {
     RecordBase& owned = *owned_.emplace_back(std::move(record));
-    identities_[key] = &owned;
+    identities_.set(key, owned);
     owned.storage_ = this;
     owned.key_ = key;
     owned.state_ = state;
@@ -138,18 +143,8 @@ void TypeStorage::write(Revision revision) {
     for (const RecordBase* record : removed_) {
         deleteRow(*record, revision);
     }
-    for (const RecordBase* record : changed_) {
-        if (record->isAlive() && record->hasUnsavedChanges()) {
-            updateRow(*record, revision);
-        }
-    }
-    newKeys_.clear();
-    std::erase_if(inserted_, [](const RecordBase* record) { return !record->isAlive(); });
-    Statement insert = database_.prepare(insertSql_);
-    for (const RecordBase* record : inserted_) {
-        insertRow(insert, *record, revision);
-        newKeys_.push_back(RowKey{database_.lastInsertKey()});
-    }
+    writeChanged(revision);
+    writeInserted(revision);
 }
 
 void TypeStorage::deleteRow(const RecordBase& record, Revision revision) {
@@ -166,39 +161,82 @@ void TypeStorage::deleteRow(const RecordBase& record, Revision revision) {
     remove.run();
 }
 
-void TypeStorage::updateRow(const RecordBase& record, Revision revision) {
-    std::string sql = "UPDATE " + name_ + " SET ";
-    for (std::size_t field = 0; field < table_.columns.size(); ++field) {
-        if (record.changed_.test(field)) {
-            sql += std::string(table_.columns[field].name) + " = ?, ";
+/// Fields that only others of the records have changed are written as they are stored.
+void TypeStorage::writeChanged(Revision revision) {
+    std::vector<RecordBase*> records;
+    FieldMask fields;
+    for (RecordBase* record : changed_) {
+        if (record->isAlive() && record->hasUnsavedChanges()) {
+            records.push_back(record);
+            fields |= record->changed_;
+            if (record->deletedElsewhere_) {
+                exhume(record->key_);
+            }
         }
     }
-    Statement update = database_.prepare(sql + "revision = ? WHERE row_key = ?");
-    bindFields(update, record, record.changed_);
-    const auto fields = static_cast<int>(record.changed_.count());
-    update.bindInteger(fields + 1, number(revision));
-    update.bindInteger(fields + 2, number(record.key_));
-    update.run();
-    if (database_.changedRows() == 0) {
-        writeAnew(record, revision);
+    writeRows(records, takingOver(fields), revision,
+              [](const RecordBase& record) { return record.key_; });
+}
+
+void TypeStorage::writeInserted(Revision revision) {
+    std::erase_if(inserted_, [](const RecordBase* record) { return !record->isAlive(); });
+    if (!inserted_.empty()) {
+        firstNewKey_ = after(lastKeyEver());
+        writeRows(inserted_, "", revision, [key = firstNewKey_](const RecordBase&) mutable {
+            return std::exchange(key, after(key));
+        });
     }
 }
 
-void TypeStorage::writeAnew(const RecordBase& record, Revision revision) {
+template <class KeyOf>
+void TypeStorage::writeRows(std::span<RecordBase* const> records, const std::string& onConflict,
+                            Revision revision, KeyOf keyOf) {
+    while (!records.empty()) {
+        const std::size_t rows = records.size() < rowsAtOnce ? 1 : rowsAtOnce;
+        Statement write = database_.prepare(insertSql(rows).append(onConflict));
+        for (; records.size() >= rows && !records.empty(); records = records.subspan(rows)) {
+            int parameter = 1;
+            for (const RecordBase* record : records.first(rows)) {
+                parameter = bindFields(write, parameter, *record);
+                write.bindInteger(parameter++, number(revision));
+                write.bindInteger(parameter++, number(keyOf(*record)));
+            }
+            write.run();
+        }
+    }
+}
+
+std::string TypeStorage::insertSql(std::size_t rows) const {
+    const std::string row = "(" + repeated("?", table_.columns.size() + 2) + ")";
+    return "INSERT INTO " + name_ + " (" + columns_ + ", revision, row_key) VALUES " +
+           repeated(row, rows);
+}
+
+/// What makes an insertion give a row that is there its changed fields.
+std::string TypeStorage::takingOver(FieldMask fields) const {
+    std::string clause = " ON CONFLICT (row_key) DO UPDATE SET revision = excluded.revision";
+    for (std::size_t field = 0; field < table_.columns.size(); ++field) {
+        if (fields.test(field)) {
+            const std::string name(table_.columns[field].name);
+            clause.append(", ").append(name).append(" = excluded.").append(name);
+        }
+    }
+    return clause;
+}
+
+/// The greatest key that a row of the table has or had.
+RowKey TypeStorage::lastKeyEver() const {
+    return RowKey{database_.integer(
+        "SELECT max(ifnull((SELECT max(row_key) FROM " + name_ +
+        "), 0), ifnull((SELECT seq FROM sqlite_sequence WHERE name = '" + name_ + "'), 0))")};
+}
+
+void TypeStorage::exhume(RowKey key) {
     Statement exhume =
         database_.prepare("DELETE FROM store_tombstone WHERE type = ? AND row_key = ?");
     exhume.bindText(1, table_.name);
-    exhume.bindInteger(2, number(record.key_));
+    exhume.bindInteger(2, number(key));
     exhume.run();
-    Statement insert = database_.prepare(insertSql_);
-    insert.bindInteger(static_cast<int>(table_.columns.size() + 2), number(record.key_));
-    insertRow(insert, record, revision);
-}
-
-void TypeStorage::insertRow(Statement& insert, const RecordBase& record, Revision revision) {
-    bindFields(insert, record, FieldMask{}.set());
-    insert.bindInteger(static_cast<int>(table_.columns.size() + 1), number(revision));
-    insert.run();
 }
 
 void TypeStorage::settle(Revision revision) {
@@ -229,16 +267,13 @@ void TypeStorage::settleChanged(Revision revision) {
 }
 
 void TypeStorage::settleInserted(Revision revision) {
-    const std::vector<RecordBase*> inserted = std::exchange(inserted_, {});
-    identities_.reserve(identities_.size() + inserted.size());
-    for (std::size_t i = 0; i < inserted.size(); ++i) {
-        RecordBase& record = *inserted[i];
-        const RowKey provisional = record.key_;
-        record.key_ = newKeys_[i];
-        record.state_ = RecordState::stored;
-        record.revision_ = revision;
-        identities_[record.key_] = &record;
-        stage(record, provisional);
+    RowKey key = firstNewKey_;
+    for (RecordBase* record : std::exchange(inserted_, {})) {
+        const RowKey provisional = std::exchange(record->key_, std::exchange(key, after(key)));
+        record->state_ = RecordState::stored;
+        record->revision_ = revision;
+        identities_.set(record->key_, *record);
+        stage(*record, provisional);
     }
 }
 
@@ -268,7 +303,7 @@ void TypeStorage::rollback() {
 }
 
 void TypeStorage::takeIn(Revision after) {
-    if (identities_.empty() && !hasObservers()) {
+    if (identities_.isEmpty() && !hasObservers()) {
         return;
     }
     Statement rows = selectNewerThan(after);

@@ -2,12 +2,13 @@
 
 #include "Platform/store/Database.h"
 #include "Platform/store/FieldValue.h"
+#include "Platform/store/IdentityMap.h"
 #include "Platform/store/Record.h"
 #include "Platform/store/TableDescription.h"
 
 #include <memory>
+#include <span>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 namespace platform::store {
@@ -76,7 +77,8 @@ protected:
     /// Tells live queries how a record stands now; `former` is the key they knew it by.
     virtual void stage(const RecordBase& record, RowKey former) = 0;
     virtual void stageRemoval(RowKey key) = 0;
-    virtual void bindFields(Statement& statement, const RecordBase& record, FieldMask fields) = 0;
+    /// Binds all fields from a parameter on; answers the parameter after them.
+    virtual int bindFields(Statement& statement, int parameter, const RecordBase& record) = 0;
     /// Gives the record its stored values back, if any were kept.
     virtual void restore(RecordBase& record) = 0;
     /// Forgets the stored values that were kept.
@@ -88,10 +90,16 @@ private:
     void markChanged(RecordBase& record);
     void takeInDeletion(RowKey key);
     void detach(RecordBase& record);
-    void insertRow(Statement& insert, const RecordBase& record, Revision revision);
-    void updateRow(const RecordBase& record, Revision revision);
-    void writeAnew(const RecordBase& record, Revision revision);
     void deleteRow(const RecordBase& record, Revision revision);
+    void writeChanged(Revision revision);
+    void writeInserted(Revision revision);
+    template <class KeyOf>
+    void writeRows(std::span<RecordBase* const> records, const std::string& onConflict,
+                   Revision revision, KeyOf keyOf);
+    [[nodiscard]] std::string insertSql(std::size_t rows) const;
+    [[nodiscard]] std::string takingOver(FieldMask fields) const;
+    [[nodiscard]] RowKey lastKeyEver() const;
+    void exhume(RowKey key);
     void settleInserted(Revision revision);
     void settleChanged(Revision revision);
 
@@ -99,13 +107,12 @@ private:
     TableDescription table_;
     std::string name_;
     std::string columns_; ///< comma-separated names of the fields' columns
-    std::string insertSql_;
-    std::unordered_map<RowKey, RecordBase*> identities_;
+    IdentityMap identities_;
     std::vector<std::unique_ptr<RecordBase>> owned_;
     std::vector<RecordBase*> inserted_;
     std::vector<RecordBase*> changed_;
     std::vector<RecordBase*> removed_;
-    std::vector<RowKey> newKeys_; ///< of the inserted records, while their save is under way
+    RowKey firstNewKey_ = RowKey::none; ///< of the inserted records, while they are being saved
 };
 
 } // namespace platform::store

@@ -233,16 +233,14 @@ private:
         }
     }
 
-    void bindFields(Statement& statement, const RecordBase& record, FieldMask fields) override {
+    int bindFields(Statement& statement, int parameter, const RecordBase& record) override {
         const Values& values = valuesOf(record);
-        std::size_t index = 0;
-        int parameter = 1;
-        const auto bind = [&](const auto& field) {
-            if (fields.test(index++)) {
-                bindField(statement, parameter++, values.*field.member);
-            }
-        };
-        std::apply([&](const auto&... field) { (bind(field), ...); }, RecordFields<Values>::fields);
+        std::apply(
+            [&](const auto&... field) {
+                (bindField(statement, parameter++, values.*field.member), ...);
+            },
+            RecordFields<Values>::fields);
+        return parameter;
     }
 
     void restore(RecordBase& record) override {

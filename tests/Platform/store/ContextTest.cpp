@@ -217,6 +217,49 @@ TEST_P(ContextTest, SavesOfSeveralContextsMeetFieldByField) {
     }
 }
 
+TEST_P(ContextTest, SavesManyRecordsTogetherAsItWouldOneByOne) {
+    constexpr std::size_t count = 150;
+    std::vector<Reminder*> mine;
+    for (std::size_t i = 0; i < count; ++i) {
+        mine.push_back(&addReminder(*context_, "stored" + std::to_string(i)));
+    }
+    context_->save();
+    const auto other = makeContext();
+    const auto third = makeContext();
+    const auto theirs = other->fetch<Reminder>();
+    const auto seenByThird = third->fetch<Reminder>();
+    for (std::size_t i = 0; i < count; i += 10) {
+        theirs[i]->setDue({static_cast<double>(i)});
+        other->remove(*theirs[i + 1]);
+    }
+    other->save();
+    for (std::size_t i = 0; i < count; ++i) {
+        i < 100 ? mine[i]->setTitle("changed") : mine[i]->setEndedAt(Instant{1.5});
+        mine[i]->setMinutes(static_cast<std::int64_t>(i));
+    }
+    context_->remove(*mine[5]);
+    for (std::size_t i = 0; i < count; ++i) {
+        mine.push_back(&addReminder(*context_, "new" + std::to_string(i)));
+    }
+    context_->save();
+    mine.push_back(&addReminder(*context_, "last"));
+    context_->save();
+
+    other->refresh();
+    third->refresh(); // sees no deletion of what was written anew
+    EXPECT_TRUE(seenByThird[1]->isAlive());
+    for (Context* const context : {other.get(), third.get()}) {
+        for (std::size_t i = 0; i < mine.size(); ++i) {
+            SCOPED_TRACE(i);
+            const Reminder* found = context->find<Reminder>(mine[i]->key());
+            ASSERT_EQ(found != nullptr, i != 5);
+            ASSERT_TRUE(i == 5 || found->values() == mine[i]->values());
+            ASSERT_TRUE(i == 0 || mine[i - 1]->key() < mine[i]->key());
+        }
+        EXPECT_EQ(context->find<Reminder>(mine[40]->key())->values().due, Instant{40});
+    }
+}
+
 TEST_P(ContextTest, FetchBringsRecordsUpToDate) {
     Reminder& reminder = addReminder(*context_, "a", 1);
     context_->save();

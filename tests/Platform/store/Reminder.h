@@ -19,6 +19,8 @@ struct ReminderValues {
     std::string title;
     Instant due{0};
     std::optional<Instant> endedAt;
+
+    friend bool operator==(const ReminderValues&, const ReminderValues&) = default;
 };
 
 struct TagValues {
