@@ -5,49 +5,77 @@
 #include "QuillmereKit/rules/AdjustmentCategoryValidation.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
 
 namespace quillmere::ActivityRepair {
 
 namespace {
 
-/// Completes a copy whose content is repaired: its times, and whether it differs at all.
+using platform::Instant;
+using platform::store::sameValue;
+
+struct Times {
+    Instant createdAt;
+    Instant modifiedAt;
+};
+
 template <class Values>
-std::optional<Values> withTimes(Values repaired, const Values& stored, bool contentDiffers,
-                                platform::Instant now) {
+Times repairedTimes(const Values& stored, bool contentDiffers, Instant now) {
     using namespace RecordTimestampValidation;
-    const platform::Instant modifiedAt = normalizedModifiedAt(stored.modifiedAt, now);
-    repaired.modifiedAt = contentDiffers ? now : modifiedAt;
-    repaired.createdAt = normalizedCreatedAt(stored.createdAt, modifiedAt);
-    const bool timesDiffer = !platform::store::sameValue(repaired.modifiedAt, stored.modifiedAt) ||
-                             !platform::store::sameValue(repaired.createdAt, stored.createdAt);
-    return contentDiffers || timesDiffer ? std::optional(std::move(repaired)) : std::nullopt;
+    const Instant modifiedAt = normalizedModifiedAt(stored.modifiedAt, now);
+    return {normalizedCreatedAt(stored.createdAt, modifiedAt), contentDiffers ? now : modifiedAt};
+}
+
+template <class Values>
+bool areStored(const Times& times, const Values& stored) {
+    return sameValue(times.createdAt, stored.createdAt) &&
+           sameValue(times.modifiedAt, stored.modifiedAt);
 }
 
 } // namespace
 
-std::optional<WorkEntryValues> repaired(const WorkEntryValues& stored, platform::Instant now) {
-    WorkEntryValues values = stored;
-    values.breakMinutes = std::clamp<std::int64_t>(stored.breakMinutes, 0, maximumBreakMinutes);
-    if (stored.endedAt && *stored.endedAt < stored.startedAt) {
-        values.endedAt = stored.startedAt;
+// Nearly every record is in order, so nothing is copied before a fault is found.
+
+std::optional<WorkEntryValues> repaired(const WorkEntryValues& stored, Instant now) {
+    const auto breakMinutes = std::clamp<std::int64_t>(stored.breakMinutes, 0, maximumBreakMinutes);
+    const bool endsTooEarly = stored.endedAt && *stored.endedAt < stored.startedAt;
+    const std::string_view note = NoteValidation::normalizedPart(stored.note);
+    const bool contentDiffers =
+        breakMinutes != stored.breakMinutes || endsTooEarly || note != stored.note;
+    const Times times = repairedTimes(stored, contentDiffers, now);
+    if (!contentDiffers && areStored(times, stored)) {
+        return std::nullopt;
     }
-    values.note = NoteValidation::normalized(stored.note);
-    const bool contentDiffers = values.breakMinutes != stored.breakMinutes ||
-                                values.note != stored.note ||
-                                !platform::store::sameValue(values.endedAt, stored.endedAt);
-    return withTimes(std::move(values), stored, contentDiffers, now);
+    return WorkEntryValues{.id = stored.id,
+                           .startedAt = stored.startedAt,
+                           .endedAt = endsTooEarly ? stored.startedAt : stored.endedAt,
+                           .breakMinutes = breakMinutes,
+                           .note = std::string(note),
+                           .createdAt = times.createdAt,
+                           .modifiedAt = times.modifiedAt};
 }
 
 std::optional<BalanceAdjustmentValues> repaired(const BalanceAdjustmentValues& stored,
-                                                platform::Instant now) {
+                                                Instant now) {
     using namespace AdjustmentCategoryValidation;
-    BalanceAdjustmentValues values = stored;
-    values.kindRawValue = normalizedRawValue(stored.kindRawValue);
-    values.minutes = normalizedMinutes(stored.minutes, values.kindRawValue);
-    values.note = NoteValidation::normalized(stored.note);
-    const bool contentDiffers = values.kindRawValue != stored.kindRawValue ||
-                                values.minutes != stored.minutes || values.note != stored.note;
-    return withTimes(std::move(values), stored, contentDiffers, now);
+    std::string kind = normalizedRawValue(stored.kindRawValue);
+    const std::int64_t minutes = normalizedMinutes(stored.minutes, kind);
+    const std::string_view note = NoteValidation::normalizedPart(stored.note);
+    const bool contentDiffers =
+        kind != stored.kindRawValue || minutes != stored.minutes || note != stored.note;
+    const Times times = repairedTimes(stored, contentDiffers, now);
+    if (!contentDiffers && areStored(times, stored)) {
+        return std::nullopt;
+    }
+    return BalanceAdjustmentValues{.id = stored.id,
+                                   .date = stored.date,
+                                   .minutes = minutes,
+                                   .note = std::string(note),
+                                   .kindRawValue = std::move(kind),
+                                   .createdAt = times.createdAt,
+                                   .modifiedAt = times.modifiedAt};
 }
 
 void assign(WorkEntry& entry, const WorkEntryValues& repaired) {

@@ -6,7 +6,11 @@
 namespace quillmere::NoteValidation {
 
 std::string normalized(std::string_view note) {
-    return limited(platform::trimmed(note));
+    return std::string(normalizedPart(note));
+}
+
+std::string_view normalizedPart(std::string_view note) {
+    return platform::firstCharacters(platform::trimmed(note), maximumCharacterCount);
 }
 
 std::string limited(std::string_view note) {
