@@ -54,6 +54,32 @@ public:
         sqlite3_reset(statement);
     }
 
+    /// Inserts so many rows and commits them.
+    void insertMany(std::int64_t count) {
+        sqlite3_stmt* const statement = prepareInsert();
+        run("BEGIN IMMEDIATE");
+        for (std::int64_t i = 0; i < count; ++i) {
+            insert(statement, madeUp(i));
+        }
+        run("COMMIT");
+        sqlite3_finalize(statement);
+    }
+
+    /// Gives the first rows another time and the next revision, and commits that.
+    void updateMany(std::int64_t count) {
+        sqlite3_stmt* const statement =
+            prepare("UPDATE change SET modified_at = ?, revision = 2 WHERE row_key = ?");
+        run("BEGIN IMMEDIATE");
+        for (std::int64_t key = 1; key <= count; ++key) {
+            sqlite3_bind_double(statement, 1, static_cast<double>(key));
+            sqlite3_bind_int64(statement, 2, key);
+            sqlite3_step(statement);
+            sqlite3_reset(statement);
+        }
+        run("COMMIT");
+        sqlite3_finalize(statement);
+    }
+
 private:
     static void bindText(sqlite3_stmt* statement, int parameter, const std::string& text) {
         sqlite3_bind_text(statement, parameter, text.data(), static_cast<int>(text.size()),
