@@ -146,8 +146,9 @@ void QuillmereMacApp::onFirstFrame() {
 
 // Not over a window that the user has gone to meanwhile, nor when they put this one out of the way.
 void QuillmereMacApp::finishStart() {
-    const bool isMinimized = (window_->windowStates() & Qt::WindowMinimized) != 0;
-    if (QGuiApplication::focusWindow() == nullptr && !isMinimized) {
+    const bool isAway =
+        !window_->isVisible() || (window_->windowStates() & Qt::WindowMinimized) != 0;
+    if (QGuiApplication::focusWindow() == nullptr && !isAway) {
         raise(QString());
     }
 }

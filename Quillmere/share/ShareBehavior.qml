@@ -13,6 +13,8 @@ Item {
     property list<string> nameFilters
 
     anchors.fill: parent
+    // Beneath what the control shows: above it, the handler would take its presses.
+    z: -1
     Drag.dragType: Drag.Automatic
     Drag.supportedActions: Qt.CopyAction
     Drag.onDragFinished: root.share.endDrag()
