@@ -37,9 +37,10 @@ QUrl localFile(const QUrl& url) {
 }
 
 QUrl withSuffix(const QUrl& file, const fs::path& exported) {
-    const bool isComplete = file.isEmpty() || file.fileName().contains(u'.');
-    return isComplete ? file
-                      : QUrl::fromLocalFile(file.toLocalFile() + textOf(exported.extension()));
+    const QString path = file.toLocalFile();
+    const QString suffix = QFileInfo(path).suffix();
+    const bool isComplete = path.isEmpty() || (!suffix.isEmpty() && suffix.front().isLetter());
+    return isComplete ? file : QUrl::fromLocalFile(path + textOf(exported.extension()));
 }
 
 std::shared_ptr<QFile> opened(const fs::path& path) {
@@ -61,12 +62,8 @@ FileShare::FileShare(Prepare prepare, QString title, AppState& appState, QObject
     : QObject(parent), prepare_(std::move(prepare)), title_(std::move(title)), appState_(appState) {
 }
 
-QString FileShare::uriList() const {
-    if (step_ != Dragging) {
-        return {};
-    }
-    const QUrl file = QUrl::fromLocalFile(textOf(exported_.path));
-    return QString::fromLatin1(file.toEncoded()) + QStringLiteral("\r\n");
+QUrl FileShare::draggedFile() const {
+    return step_ == Dragging ? QUrl::fromLocalFile(textOf(exported_.path)) : QUrl();
 }
 
 QUrl FileShare::suggestedFolder() const {
@@ -151,7 +148,7 @@ void FileShare::choose(const QUrl& target) {
     if (target_.isEmpty()) {
         ShareIssue::reportUnsaved(appState_, std::runtime_error("not a local file"));
         go(Idle);
-    } else if (QFileInfo::exists(target_.toLocalFile())) {
+    } else if (const QFileInfo there(target_.toLocalFile()); there.exists() && !there.isDir()) {
         go(Replacing);
     } else {
         copy();

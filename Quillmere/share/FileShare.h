@@ -29,9 +29,6 @@ class FileShare : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by view models")
     Q_PROPERTY(Step step READ step NOTIFY stepChanged)
-    /// The written file in the form of text/uri-list (RFC 2483). Empty unless the step is
-    /// `Dragging`.
-    Q_PROPERTY(QString uriList READ uriList NOTIFY stepChanged)
     /// Where a save dialog starts: the folder of the last save, else the user's documents, and the
     /// export's own name.
     Q_PROPERTY(QUrl suggestedFolder READ suggestedFolder NOTIFY stepChanged)
@@ -64,7 +61,8 @@ public:
     FileShare(Prepare prepare, QString title, AppState& appState, QObject* parent = nullptr);
 
     [[nodiscard]] Step step() const { return step_; }
-    [[nodiscard]] QString uriList() const;
+    /// The written file, while the step is `Dragging`; else empty.
+    [[nodiscard]] QUrl draggedFile() const;
     [[nodiscard]] QUrl suggestedFolder() const;
     [[nodiscard]] QUrl suggestedTarget() const;
     [[nodiscard]] QString nameToReplace() const { return QUrl(target_).fileName(); }
@@ -74,11 +72,12 @@ public:
     /// Begins an export that goes through the save dialog. Does nothing unless idle.
     Q_INVOKABLE void save();
     /// Begins an export that is dragged out. Does nothing unless idle.
-    Q_INVOKABLE void drag();
+    void drag();
     /// The drag is over, wherever it led, or was given up before it began.
-    Q_INVOKABLE void endDrag();
+    void endDrag();
     Q_INVOKABLE void acceptRemark();
     /// The place chosen in the dialog: a local file, which gets the export's suffix when it has
+    /// none. What follows the last dot is a suffix when it begins with a letter: "Week 47.2" has
     /// none.
     Q_INVOKABLE void choose(const QUrl& target);
     Q_INVOKABLE void replace();

@@ -15,31 +15,24 @@ Item {
     anchors.fill: parent
     // Beneath what the control shows: above it, the handler would take its presses.
     z: -1
-    Drag.dragType: Drag.Automatic
-    Drag.supportedActions: Qt.CopyAction
-    Drag.onDragFinished: root.share.endDrag()
+
+    FileDrag {
+        share: root.share
+        isHeld: handler.active
+    }
 
     DragHandler {
+        id: handler
+
         target: null
-        onActiveChanged: {
-            if (active)
-                root.share.drag();
-            else if (root.share.step === FileShare.Writing)
-                root.share.endDrag();
-        }
     }
 
     Connections {
         target: root.share
 
         function onStepChanged() {
-            if (root.share.step === FileShare.Dragging) {
-                // Starts the drag, and goes on when it has ended.
-                root.Drag.mimeData = { "text/uri-list": root.share.uriList };
-                root.Drag.active = true;
-            } else if (root.share.step === FileShare.Remarking) {
+            if (root.share.step === FileShare.Remarking)
                 remark.open();
-            }
         }
     }
 

@@ -67,6 +67,17 @@ class Calendar(Story):
                          f"{before:%Y-%m-%d},1.50,0.00,1.50\n"
                          f"{noon:%Y-%m-%d},1.00,0.25,0.75\n")
 
+    def test_a_link_arrives_while_an_export_is_dragged(self):
+        program = self.start_on_dashboard()
+        program.keys("ctrl+3")
+        exports = self.desktop.home / "tmp/Quillmere Reports"
+        program.pull(program.await_element("button", "Export CSV"))
+        program.await_true(lambda: list(exports.glob("*.csv")), "there is a file to drag")
+        self.assertEqual(self.start("quillmere://overview").await_exit(), 0)
+        program.await_dashboard()
+        program.let_go()
+        self.quit(program)
+
     def months_since(self, moment):
         now = datetime.now(BERLIN)
         return 12 * (now.year - moment.year) + now.month - moment.month

@@ -96,6 +96,17 @@ class Program:
         left, top, width, height = element.extents
         self._xdotool("mousemove", left + width // 2, top + height // 2, "click", "1")
 
+    def pull(self, element):
+        """Takes an element with the pointer and pulls it aside, until `let_go`."""
+        left, top, width, height = element.extents
+        x, y = left + width // 2, top + height // 2
+        self._xdotool("mousemove", x, y, "mousedown", 1)
+        for distance in range(10, 60, 10):
+            self._xdotool("mousemove", x + distance, y + distance)
+
+    def let_go(self):
+        self._xdotool("mouseup", 1)
+
     def is_active(self):
         """Whether the window is shown and has the keyboard."""
         return any("active" in window.states for window in self.root().children)

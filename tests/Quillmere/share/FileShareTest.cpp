@@ -107,6 +107,7 @@ TEST_F(FileShareTest, TakesAPlaceHoweverItsDialogSaysIt) {
         {"no scheme", typed("typed.csv"), "typed.csv"},
         {"neither scheme nor suffix", typed("bare"), "bare.csv"},
         {"another suffix", urlOf(place() / "a.txt"), "a.txt"},
+        {"a number after a dot", urlOf(place() / "Backup 23.11.2026"), "Backup 23.11.2026.csv"},
         {"what is special in a URL", urlOf(place() / "a#b%41c?d"), "a#b%41c?d.csv"},
     };
     for (const Row& row : rows) {
@@ -150,6 +151,7 @@ TEST_F(FileShareTest, SaysThatAPlaceCannotBeWrittenAndLeavesWhatWasThere) {
     }
     const fs::path target = place() / "kept.csv";
     platform::writeFileAtomically(target, "old", 0600);
+    fs::create_directory(place() / "folder.csv");
     const auto failsWith = [&](const QUrl& chosen, const char* message) {
         SCOPED_TRACE(message);
         appState_.dismissIssue();
@@ -164,6 +166,8 @@ TEST_F(FileShareTest, SaysThatAPlaceCannotBeWrittenAndLeavesWhatWasThere) {
         EXPECT_EQ(textIn(target), "old");
     };
     failsWith(urlOf(place() / "none/file"), "The file couldn't be written to the place you chose.");
+    failsWith(urlOf(place() / "folder.csv"),
+              "The file couldn't be written to the place you chose.");
     failsWith(QUrl("sftp://host/file"), "The file couldn't be written to the place you chose.");
     failsWith(QUrl("file.csv"), "The file couldn't be written to the place you chose.");
     text_.assign(100'000, 'x');
@@ -189,11 +193,10 @@ TEST_F(FileShareTest, HandsTheFileToADragUnlessThatIsOverBefore) {
     share_.drag();
     share_.endDrag();
     reach(FileShare::Idle);
-    EXPECT_TRUE(share_.uriList().isEmpty());
+    EXPECT_TRUE(share_.draggedFile().isEmpty());
     share_.drag();
     reach(FileShare::Dragging);
-    EXPECT_EQ(share_.uriList().toStdString(),
-              "file://" + (folder_.path() / "Exports/a%20b.csv").string() + "\r\n");
+    EXPECT_EQ(share_.draggedFile(), urlOf(folder_.path() / "Exports/a b.csv"));
     EXPECT_EQ(textIn(folder_.path() / "Exports/a b.csv"), "new");
     share_.endDrag();
     EXPECT_EQ(share_.step(), FileShare::Idle);
