@@ -134,7 +134,7 @@ void QuillmereMacApp::onFirstFrame() {
     window_->setIcon(QGuiApplication::windowIcon());
     menuBarExtra_ = std::make_unique<MenuBarExtra>(bus_, storage_, preferencesFollower_);
     connect(menuBarExtra_.get(), &MenuBarExtra::changed, &keeper_, &WindowKeeper::check);
-    connect(menuBarExtra_.get(), &MenuBarExtra::appeared, this, &QuillmereMacApp::finishStart);
+    connect(menuBarExtra_.get(), &MenuBarExtra::appeared, &keeper_, &WindowKeeper::finishStart);
     connect(menuBarExtra_.get(), &MenuBarExtra::activated, &menuBarPanel_, &MenuBarPanel::toggle);
     connect(menuBarExtra_.get(), &MenuBarExtra::composerRequested, &menuBarPanel_,
             &MenuBarPanel::open);
@@ -142,15 +142,6 @@ void QuillmereMacApp::onFirstFrame() {
     connect(menuBarExtra_.get(), &MenuBarExtra::mainWindowRequested, this,
             [this] { raise(QString()); });
     connect(menuBarExtra_.get(), &MenuBarExtra::quitRequested, qGuiApp, &QGuiApplication::quit);
-}
-
-// Not over a window that the user has gone to meanwhile, nor when they put this one out of the way.
-void QuillmereMacApp::finishStart() {
-    const bool isAway =
-        !window_->isVisible() || (window_->windowStates() & Qt::WindowMinimized) != 0;
-    if (QGuiApplication::focusWindow() == nullptr && !isAway) {
-        raise(QString());
-    }
 }
 
 void QuillmereMacApp::followPreferences() {

@@ -52,7 +52,6 @@ public slots:
 
 private:
     void onFirstFrame();
-    void finishStart();
     void followPreferences();
     [[nodiscard]] WindowModel::Application windows();
     [[nodiscard]] SettingsViewModel::Services settingsServices();

@@ -36,6 +36,14 @@ void WindowKeeper::check() {
     }
 }
 
+void WindowKeeper::finishStart() {
+    const bool isAway =
+        !mainWindow_->isVisible() || (mainWindow_->windowStates() & Qt::WindowMinimized) != 0;
+    if (QGuiApplication::focusWindow() == nullptr && !isAway) {
+        emit mainWindowRequested();
+    }
+}
+
 // Quitting closes every window first, and one that refuses would prevent it.
 bool WindowKeeper::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Quit && watched == qGuiApp) {

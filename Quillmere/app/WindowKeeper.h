@@ -29,6 +29,10 @@ public:
     /// Called when `isOutOfReach` may answer differently.
     void check();
 
+    /// Called when the start is over: asks for the main window, unless the user has gone to another
+    /// one meanwhile or put this one out of the way.
+    void finishStart();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:

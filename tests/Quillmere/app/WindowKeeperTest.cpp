@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <functional>
 
 namespace quillmere {
 namespace {
@@ -104,6 +105,39 @@ TEST_F(WindowKeeperTest, OverAHiddenProgramAPanelThatClosesDecidesNothingAWindow
     settings.show();
     close(settings);
     EXPECT_EQ(quits_.count(), 1) << "nothing but the tray item would be left, unasked for";
+}
+
+TEST_F(WindowKeeperTest, TheStartEndsWithTheWindowInFrontUnlessTheUserTurnedAwayFromIt) {
+    QWindow other; // takes the focus, and leaves it to nobody
+    const auto start = [&] {
+        window_.show();
+        other.show();
+        QCoreApplication::processEvents();
+        other.close();
+        QCoreApplication::processEvents();
+    };
+    const auto hide = [&] {
+        closesToTray(true);
+        window_.close();
+    };
+    const struct {
+        const char* name;
+        std::function<void()> user;
+        int returns;
+    } rows[] = {{"waits", [] {}, 1},
+                {"goes to another window", [&] { other.show(); }, 0},
+                {"minimizes it", [&] { window_.setWindowStates(Qt::WindowMinimized); }, 0},
+                {"closes it", hide, 0}};
+    for (const auto& [name, user, returns] : rows) {
+        SCOPED_TRACE(name);
+        start();
+        ASSERT_EQ(QGuiApplication::focusWindow(), nullptr);
+        user();
+        QCoreApplication::processEvents();
+        keeper_.finishStart();
+        EXPECT_EQ(returns_.count(), returns);
+        returns_.clear();
+    }
 }
 
 TEST_F(WindowKeeperTest, AKeptWindowDoesNotStandInTheWayOfQuitting) {
