@@ -1,7 +1,10 @@
 #include "Quillmere/app/WindowKeeper.h"
 
+#include "Quillmere/app/WindowPlacement.h"
+
 #include <QtCore/QEvent>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
 #include <utility>
@@ -10,10 +13,20 @@ namespace quillmere {
 
 namespace {
 
+constexpr int titleHeight = 24; ///< of a window that has no frame and is grabbed at its own top
+
 // Neither panel nor menu.
 bool isWindowOfItsOwn(QObject* object) {
     const auto* window = qobject_cast<QWindow*>(object);
     return window != nullptr && (window->type() == Qt::Window || window->type() == Qt::Dialog);
+}
+
+QList<QRect> screens() {
+    QList<QRect> areas;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        areas.append(screen->availableGeometry());
+    }
+    return areas;
 }
 
 } // namespace
@@ -50,26 +63,47 @@ bool WindowKeeper::eventFilter(QObject* watched, QEvent* event) {
         isLeaving_ = true;
     } else if (event->type() == QEvent::Show && isWindowOfItsOwn(watched)) {
         isHidden_ = false;
-        if (watched == mainWindow_) {
-            putBack();
-        }
-    } else if (event->type() == QEvent::Close && watched == mainWindow_) {
-        if (refusesToClose()) {
-            event->ignore();
-            return true;
-        }
-        place_ = mainWindow_->framePosition();
+    } else if (event->type() == QEvent::Close && watched == mainWindow_ && refusesToClose()) {
+        event->ignore();
+        return true;
+    }
+    if (watched == mainWindow_) {
+        onMainWindowEvent(*event);
     }
     return false;
 }
 
-// Otherwise window managers look for a new place, as for any window that appears.
-void WindowKeeper::putBack() {
-    const auto place = std::exchange(place_, std::nullopt);
+void WindowKeeper::onMainWindowEvent(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Close:
+        rememberPlace();
+        break;
+    case QEvent::Show:
+        putBack();
+        break;
+    default:
+        break;
+    }
+}
+
+void WindowKeeper::rememberPlace() {
     const bool isOrdinary =
         (mainWindow_->windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen)) == 0;
-    if (place && isOrdinary && QGuiApplication::screenAt(*place) != nullptr) {
-        mainWindow_->setFramePosition(*place);
+    if (isOrdinary && mainWindow_->isVisible()) {
+        place_ = {mainWindow_->geometry(), mainWindow_->frameMargins()};
+    }
+}
+
+// Otherwise window managers look for a new place, as for any window that appears. From a maximized
+// one they learn here what it is to be when it no longer is.
+void WindowKeeper::putBack() {
+    if (place_) {
+        const auto [content, frame] = *place_;
+        mainWindow_->resize(content.size());
+        mainWindow_->setFramePosition(WindowPlacement::place(
+            content.marginsAdded(frame), frame.top() > 0 ? frame.top() : titleHeight, screens()));
     }
 }
 

@@ -2,8 +2,9 @@
 
 #include "Quillmere/shell/QuillmereMacAppDelegate.h"
 
+#include <QtCore/QMargins>
 #include <QtCore/QObject>
-#include <QtCore/QPoint>
+#include <QtCore/QRect>
 
 #include <functional>
 #include <optional>
@@ -40,15 +41,22 @@ signals:
     void quitRequested();
 
 private:
+    struct Place {
+        QRect content;
+        QMargins frame;
+    };
+
     void onLastWindowClosed();
+    void onMainWindowEvent(const QEvent& event);
     [[nodiscard]] bool refusesToClose() const;
+    void rememberPlace();
     void putBack();
 
     const QuillmereMacAppDelegate& delegate_;
     std::function<bool()> isOutOfReach_;
     QWindow* mainWindow_ = nullptr;
-    std::optional<QPoint> place_; ///< of the main window while it is hidden
-    bool isHidden_ = false;       ///< runs on without a window; the panel counts for none
+    std::optional<Place> place_; ///< of the main window when it last was an ordinary one
+    bool isHidden_ = false;      ///< runs on without a window; the panel counts for none
     bool isLeaving_ = false;
 };
 

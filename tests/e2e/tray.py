@@ -105,7 +105,8 @@ class Panel(TrayStory):
 class Closing(TrayStory):
     def test_the_window_hides_and_comes_back(self):
         program, item = self.start_in_tray(closeWindowToMenuBar=True)
-        program.move(60, 90)
+        program.move(-300, 90)
+        ordinary = program.geometry()
         ways = {
             "the menu": lambda: item.choose("Open app"),
             "a second start": lambda: self.assertEqual(self.start().await_exit(), 0),
@@ -113,7 +114,7 @@ class Closing(TrayStory):
         }
         for name, come_back in ways.items():
             if name == "a link":
-                program.maximize()
+                program.toggle_maximized()
             with self.subTest(name):
                 place = program.geometry()
                 self.close_window(program)
@@ -122,6 +123,8 @@ class Closing(TrayStory):
                 program.await_active()
                 self.assertEqual(program.geometry(), place)
         program.await_route("Activity")
+        program.toggle_maximized()
+        program.await_true(lambda: program.geometry() == ordinary, "the window is as it was")
         self.close_window(program)
         self.await_hidden(program)
         self.tray.item().choose("Quit")

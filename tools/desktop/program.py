@@ -136,11 +136,11 @@ class Program:
     def move(self, left, top):
         self._xdotool("windowmove", "--sync", self.window(), left, top)
 
-    def maximize(self):
+    def toggle_maximized(self):
         """As a double click on the title does."""
         left, top, width, _ = before = self.geometry()
         self._xdotool("mousemove", left + width // 2, top - 8, "click", "--repeat", 2, 1)
-        self.await_true(lambda: self.geometry() != before, "the window is maximized")
+        self.await_true(lambda: self.geometry() != before, "the window is maximized, or no longer")
 
     def geometry(self, window=None):
         """Left, top, width and height of a window, the main one unless said, in pixels."""
