@@ -55,10 +55,12 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       delegate_(preferences_),
       mainWindowModel_(windows(),
                        [this](StoreSession& session) {
-                           return std::make_unique<MainSceneModel>(
+                           auto scene = std::make_unique<MainSceneModel>(
                                session,
                                MainSceneModel::Application{appState_, routes_, preferences_,
                                                            prototype_, settingsServices()});
+                           engine_.readAhead(scene->root()->screen());
+                           return scene;
                        }),
       settingsWindow_(engine_, windows(),
                       [this](StoreSession& session) {
@@ -67,7 +69,6 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       menuBarPanel_(engine_, windows()),
       keeper_(delegate_, [this] { return !menuBarExtra_ || menuBarExtra_->isMissing(); }) {
     listFonts();
-    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     connect(&engine_, &QQmlEngine::quit, qGuiApp, &QGuiApplication::quit, Qt::QueuedConnection);
     QDesktopServices::setUrlHandler(deepLinkScheme, this, "open");
     connect(&keeper_, &WindowKeeper::mainWindowRequested, this, [this] { raise(QString()); });

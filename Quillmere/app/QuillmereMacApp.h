@@ -6,6 +6,7 @@
 #include "Platform/files/UserFolders.h"
 #include "Platform/log/Log.h"
 #include "Platform/preferences/FilePreferences.h"
+#include "Quillmere/app/AppEngine.h"
 #include "Quillmere/app/MainSceneModel.h"
 #include "Quillmere/app/MenuBarExtra.h"
 #include "Quillmere/app/MenuBarPanel.h"
@@ -25,7 +26,6 @@
 #include <QtCore/QObject>
 #include <QtCore/QUrl>
 #include <QtDBus/QDBusConnection>
-#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
 
 #include <memory>
@@ -59,6 +59,7 @@ private:
     [[nodiscard]] QQuickWindow* mainWindow() const { return window_.get(); }
 
     QDBusConnection bus_;
+    AppEngine engine_; ///< early, because it reads on while the rest is made
     platform::SystemLogSink log_;
     platform::SystemClock clock_;
     platform::UserFolders folders_;
@@ -79,7 +80,6 @@ private:
     RouteSelection routes_;
     QuillmereMacAppDelegate delegate_;
     WindowModel mainWindowModel_;
-    QQmlEngine engine_;
     std::unique_ptr<QQuickWindow> window_; ///< null until shown
     SettingsWindow settingsWindow_;
     MenuBarPanel menuBarPanel_;
