@@ -50,7 +50,7 @@ QuillmereMacApp::QuillmereMacApp(const QDBusConnection& bus, QObject* parent)
       opener_(entitlements_, StoreLocations::within(folders_.data())),
       container_(opener_, log_),
       appState_(log_),
-      storage_(container_, container_.make(), time_),
+      storage_(container_, container_.make(), time_, StoreSession::Reading::whenAsked),
       routes_(preferences_),
       delegate_(preferences_),
       mainWindowModel_(windows(),
@@ -131,6 +131,7 @@ void QuillmereMacApp::raise(const QString& token) {
 // What the user does not wait for. Only window managers that know no desktop files ask for the
 // icon.
 void QuillmereMacApp::onFirstFrame() {
+    storage_.readHistory();
     QGuiApplication::setWindowIcon(QIcon(windowIcon));
     window_->setIcon(QGuiApplication::windowIcon());
     menuBarExtra_ = std::make_unique<MenuBarExtra>(bus_, storage_, preferencesFollower_);

@@ -18,13 +18,20 @@ constexpr auto settlingTime = 250ms;
 
 AppStorageController::AppStorageController(AppModelContainer& opener,
                                            AppModelContainer::Result result, TimeFollower& time,
-                                           QObject* parent)
-    : QObject(parent), opener_(opener), time_(time) {
+                                           StoreSession::Reading reading, QObject* parent)
+    : QObject(parent), opener_(opener), time_(time), reading_(reading) {
     adopt(std::move(result));
 }
 
 AppStorageController::~AppStorageController() {
     delete session_.release();
+}
+
+void AppStorageController::readHistory() {
+    const auto before = std::exchange(reading_, StoreSession::Reading::atOnce);
+    if (before == StoreSession::Reading::whenAsked && session_) {
+        session_->readHistory();
+    }
 }
 
 void AppStorageController::retryICloud(std::function<void(bool)> done) {
@@ -63,7 +70,7 @@ void AppStorageController::adopt(AppModelContainer::Result result) {
 
 void AppStorageController::openSession() {
     try {
-        session_.reset(new StoreSession(result_.container, time_));
+        session_.reset(new StoreSession(result_.container, time_, reading_));
         connect(session_.get(), &StoreSession::readingFailed, this,
                 [this](const QString& reason) { opener_.logUnreadable(reason.toStdString()); });
     } catch (const platform::store::StoreError& error) {

@@ -31,9 +31,12 @@ class AppStorageController : public QObject {
                    didLastICloudRetryFailChanged)
 
 public:
-    /// `opener` and `time` must outlive the object.
+    /// `opener` and `time` must outlive the object. `reading` is that of the session until
+    /// `readHistory`.
     AppStorageController(AppModelContainer& opener, AppModelContainer::Result result,
-                         TimeFollower& time, QObject* parent = nullptr);
+                         TimeFollower& time,
+                         StoreSession::Reading reading = StoreSession::Reading::atOnce,
+                         QObject* parent = nullptr);
     ~AppStorageController() override;
 
     [[nodiscard]] const AppModelContainer::Result& result() const { return result_; }
@@ -45,6 +48,9 @@ public:
 
     /// The session on the open store, or nothing when no store is open.
     [[nodiscard]] StoreSession* session() const { return session_.get(); }
+
+    /// Has the open session read its history, which waited for this, and later ones at once.
+    void readHistory();
 
     /// Lets go of the store, waits 250 ms and tries private sync again; on failure opens the local
     /// fallback anew. `done` hears whether private sync is on afterwards; it is called at once when
@@ -71,6 +77,7 @@ private:
 
     AppModelContainer& opener_;
     TimeFollower& time_;
+    StoreSession::Reading reading_;
     AppModelContainer::Result result_;
     std::unique_ptr<StoreSession, DeferredDelete> session_;
     bool isRetryingICloud_ = false;

@@ -65,12 +65,15 @@ public:
     std::jthread historyReader;
 };
 
-StoreSession::StoreSession(std::shared_ptr<Store> store, TimeFollower& time, QObject* parent)
+StoreSession::StoreSession(std::shared_ptr<Store> store, TimeFollower& time, Reading reading,
+                           QObject* parent)
     : QObject(parent), impl_(std::make_unique<Impl>(std::move(store), time)) {
     impl_->settings.load();
     listen();
     watchOthers();
-    QTimer::singleShot(0, this, &StoreSession::readHistory);
+    if (reading == Reading::atOnce) {
+        QTimer::singleShot(0, this, &StoreSession::readHistory);
+    }
 }
 
 StoreSession::~StoreSession() {

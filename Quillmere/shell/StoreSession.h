@@ -23,9 +23,9 @@ class TimeFollower;
 /// from the opening of a store to its closing; a retry of private sync ends one and starts another.
 /// Main thread.
 ///
-/// The settings query is loaded when the session starts. The history is read on a worker, from when
-/// the program is ready for events; until it has arrived the adjustments query is loading. What
-/// other contexts and other programs commit is taken in within a second.
+/// The settings query is loaded when the session starts. The history is read on a worker; until it
+/// has arrived the adjustments query is loading. What other contexts and other programs commit is
+/// taken in within a second.
 ///
 /// View models are constructed with a reference to the session and never outlive it: the
 /// application makes them when a session starts, and when a session ends the QML objects go first,
@@ -38,17 +38,22 @@ public:
     using SettingsQuery = platform::store::LiveQuery<TimeBankSettings, SettingsRow>;
     using AdjustmentsQuery = platform::store::LiveQuery<BalanceAdjustment, LedgerRow>;
 
-    /// Loads the settings and starts reading the history. Throws `StoreError` when the store cannot
-    /// be read. `time` must outlive the session.
+    /// When the history is read: from when the program is ready for events, or from `readHistory`.
+    enum class Reading { atOnce, whenAsked };
+
+    /// Loads the settings. Throws `StoreError` when the store cannot be read. `time` must outlive
+    /// the session.
     StoreSession(std::shared_ptr<platform::store::Store> store, TimeFollower& time,
-                 QObject* parent = nullptr);
+                 Reading reading = Reading::atOnce, QObject* parent = nullptr);
     ~StoreSession() override;
 
     [[nodiscard]] platform::store::Context& context();
     [[nodiscard]] TimeFollower& time();
     [[nodiscard]] SettingsQuery& settings();
     [[nodiscard]] AdjustmentsQuery& adjustments();
-    /// Whether the history is still being read.
+    /// Starts reading the history. Once, of a session that reads when asked.
+    void readHistory();
+    /// Whether the history is still missing.
     [[nodiscard]] bool isLoading() const;
 
     /// The first settings record, or nothing while there is none.
@@ -78,7 +83,6 @@ private:
     void listen();
     void watchOthers();
     void refresh();
-    void readHistory();
     void readAndVerify(const std::stop_token& stop); ///< on the worker
     void adoptHistory(AdjustmentsQuery::Loaded& rows);
     void onHistoryFailed(const QString& reason);

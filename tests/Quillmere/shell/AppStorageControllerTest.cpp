@@ -58,6 +58,19 @@ TEST_F(AppStorageControllerTest, RetryLetsGoOfTheStoreBeforeItIsOpenedAgain) {
     EXPECT_FALSE(controller.didLastICloudRetryFail());
 }
 
+TEST_F(AppStorageControllerTest, SessionsReadTheirHistoryFromWhenTheyAreAsked) {
+    opener_.failing = {"cloud"};
+    controller_.emplace(container_, container_.make(), time_, StoreSession::Reading::whenAsked);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(controller_->session()->isLoading());
+    controller_->readHistory();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !controller_->session()->isLoading(); }, 30'000));
+
+    opener_.failing = {};
+    ASSERT_TRUE(retry());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !controller_->session()->isLoading(); }, 30'000));
+}
+
 TEST_F(AppStorageControllerTest, FailedRetryOpensTheFallbackAnew) {
     opener_.failing = {"cloud", "local", "memory"};
     AppStorageController& controller = start();
