@@ -8,12 +8,20 @@ Item {
 
     readonly property real line: 48
 
+    function within(y: real): real {
+        const first = root.page.originY - root.page.topMargin;
+        const last = root.page.originY + root.page.contentHeight + root.page.bottomMargin - root.page.height;
+        return Math.max(first, Math.min(last, y));
+    }
+
     function scroll(distance: real): bool {
-        const last = Math.max(0, root.page.contentHeight - root.page.height);
-        const target = Math.max(0, Math.min(last, root.page.contentY + distance));
-        const moved = target !== root.page.contentY;
-        root.page.contentY = target;
-        return moved;
+        if (distance === 0)
+            return false;
+        const before = root.page.contentY;
+        root.page.contentY = root.within(before + distance);
+        // A list knows how high it is once it has made its last row.
+        root.page.contentY = root.within(before + distance);
+        return root.page.contentY !== before;
     }
 
     function distanceOf(key: int): real {
@@ -27,9 +35,9 @@ Item {
         case Qt.Key_PageDown:
             return root.page.height - root.line;
         case Qt.Key_Home:
-            return -root.page.contentHeight;
+            return -Infinity;
         case Qt.Key_End:
-            return root.page.contentHeight;
+            return Infinity;
         default:
             return 0;
         }

@@ -17,6 +17,8 @@ Row {
     spacing: Theme.spaceXS
 
     IconButton {
+        id: previous
+
         bordered: true
         text: qsTr("Previous period")
         symbol: "chevron.left"
@@ -42,6 +44,12 @@ Row {
         symbolSize: 13
         enabled: root.hasNext
         Accessible.description: qsTr("Shows the next %1").arg(root.word)
-        onClicked: root.nextChosen()
+        onClicked: {
+            const reason = visualFocus ? Qt.TabFocusReason : Qt.OtherFocusReason;
+            root.nextChosen();
+            // A button that can no longer be used loses the keyboard.
+            if (!root.hasNext)
+                previous.forceActiveFocus(reason);
+        }
     }
 }

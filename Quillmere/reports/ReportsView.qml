@@ -60,12 +60,7 @@ FocusScope {
             width: parent.width
             model: root.model
             onPreviousChosen: root.turn(-1)
-            onNextChosen: {
-                root.turn(1);
-                // A button that can no longer be used loses the keyboard.
-                if (!root.model.hasNextPeriod)
-                    grid.focusCursor();
-            }
+            onNextChosen: root.turn(1)
         }
 
         Column {

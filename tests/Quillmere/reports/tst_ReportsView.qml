@@ -43,11 +43,11 @@ Item {
             return found;
         }
 
-        function named(item, name) {
-            if (item.visible && item.Accessible.name === name)
+        function named(item, name, role) {
+            if (item.visible && item.Accessible.name === name && (role === undefined || item.Accessible.role === role))
                 return item;
             for (let i = 0; i < item.children.length; ++i) {
-                const found = named(item.children[i], name);
+                const found = named(item.children[i], name, role);
                 if (found)
                     return found;
             }
@@ -149,7 +149,7 @@ Item {
             next.forceActiveFocus(Qt.TabFocusReason);
             keyClick(Qt.Key_Return);
             verify(named(screen, "November 2026"));
-            compare(focusedName(), "Sunday, November 22, 2026");
+            compare(focusedName(), "Previous period");
             mouseClick(named(screen, "Week"));
             verify(named(screen, "Nov 22\u2013Nov 28, 2026"));
             compare(named(screen, "Previous period").Accessible.description, "Shows the previous week");
@@ -182,6 +182,21 @@ Item {
             compare(Fixture.model.selectedDay, null);
             verify(focusedName().startsWith("Saturday, November 21, 2026"));
             compare(Fixture.model.days.cursorRow, cell.row);
+        }
+
+        function test_scrollsADayByKeys() {
+            for (let i = 0; i < 30; ++i)
+                Fixture.record(15, 1, "Standup");
+            named(screen, "Saturday, November 21, 2026, plus 7 hours, 30 minutes").Accessible.pressAction();
+            tryVerify(() => focusedName() === "Done");
+            const list = named(daySheet(), "Changes", Accessible.List);
+            waitForRendering(list);
+            keyClick(Qt.Key_End);
+            verify(list.atYEnd);
+            keyClick(Qt.Key_Home);
+            verify(list.atYBeginning);
+            keyClick(Qt.Key_Escape);
+            tryVerify(() => daySheet() === null);
         }
 
         function test_leavesAnUnchangedDayClosed() {
