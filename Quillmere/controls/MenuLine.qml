@@ -11,7 +11,7 @@ Item {
     property bool checked: false
     property color color: Theme.primary
 
-    implicitWidth: row.implicitWidth
+    implicitWidth: row.x + label.x + label.implicitWidth
     implicitHeight: row.implicitHeight
     Accessible.ignored: true
 
@@ -37,11 +37,15 @@ Item {
         }
 
         Text {
+            id: label
+
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, root.width - x)
             text: root.text
             textFormat: Text.PlainText
             font: Theme.body
             color: root.color
+            elide: Text.ElideRight
             Accessible.ignored: true
         }
     }

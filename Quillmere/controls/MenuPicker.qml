@@ -11,7 +11,14 @@ T.ComboBox {
     id: root
 
     readonly property string currentSymbol: count > 0 && currentIndex >= 0
-        ? symbols.itemAt(currentIndex)?.symbol ?? "" : ""
+        ? rows.itemAt(currentIndex)?.symbol ?? "" : ""
+
+    function widestTitle(): real {
+        let widest = 0;
+        for (let row = 0; row < rows.count; ++row)
+            widest = Math.max(widest, metrics.advanceWidth(rows.itemAt(row).title));
+        return Math.ceil(widest);
+    }
 
     implicitWidth: Math.max(implicitBackgroundWidth, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(implicitBackgroundHeight, implicitContentHeight + topPadding + bottomPadding)
@@ -34,17 +41,24 @@ T.ComboBox {
     Keys.onReturnPressed: root.popup.open()
     Keys.onEnterPressed: root.popup.open()
 
-    // Keeps the symbols of the model's rows at hand.
+    // Keeps the symbols and titles of the model's rows at hand.
     Repeater {
-        id: symbols
+        id: rows
 
         model: root.model
 
         Item {
             required property string symbol
+            required property string title
 
             visible: false
         }
+    }
+
+    FontMetrics {
+        id: metrics
+
+        font: root.font
     }
 
     background: Rectangle {
@@ -104,7 +118,7 @@ T.ComboBox {
         highlighted: root.highlightedIndex === choice.index
         hoverEnabled: true
         Accessible.selectable: true
-        Accessible.selected: root.currentIndex === choice.index
+        Accessible.selected: choice.highlighted
         Accessible.onPressAction: choice.clicked()
         onYChanged: order.schedule()
 
@@ -124,7 +138,8 @@ T.ComboBox {
 
     popup: T.Popup {
         y: root.height + 4
-        width: Math.max(root.width, 190)
+        // Room for check mark and symbol beside the widest title; margins keep it within the window.
+        width: Math.max(root.width, 190, Math.min(root.widestTitle() + 90, 420, root.Window.width - 12))
         height: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, 330)
         padding: 5
         margins: 6
@@ -144,9 +159,15 @@ T.ComboBox {
             implicitHeight: contentHeight
             model: root.popup.visible ? root.delegateModel : null
             currentIndex: root.highlightedIndex
+            highlightMoveDuration: 0
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ThinScrollBar {}
+            // Opens with what is above the choice in sight where there is room for both.
+            onModelChanged: Qt.callLater(() => {
+                list.positionViewAtBeginning();
+                list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            })
 
             ReadingOrder {
                 id: order
