@@ -30,10 +30,18 @@ ListView {
 
     // The screen has the keyboard where there are no rows.
     function focusCurrent(): void {
-        if (currentItem !== null)
+        if (visible && currentItem !== null)
             (currentItem as HistoryRow).takeKeyboard();
         else
-            root.forceActiveFocus(Qt.OtherFocusReason);
+            root.parent.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    // The row that had the keyboard may be among them.
+    function onRowsGone(): void {
+        if (visible && currentItem?.activeFocus)
+            focusCurrent();
+        else
+            takeFocusBack();
     }
 
     // What a press of a row means with these keys held.
@@ -149,9 +157,8 @@ ListView {
     T.ScrollBar.vertical: ThinScrollBar {}
     Accessible.role: Accessible.List
     onCountChanged: {
-        // The row that had the keyboard may be among those that went.
         if (count < lastCount)
-            Qt.callLater(takeFocusBack); // qmllint disable
+            Qt.callLater(onRowsGone); // qmllint disable
         lastCount = count;
         if (currentIndex < 0 && count > 0)
             currentIndex = 0;

@@ -32,7 +32,10 @@ FocusScope {
     }
 
     // A row kept for later use is not there, for assistive technology either.
-    ListView.onPooled: root.visible = false
+    ListView.onPooled: {
+        root.visible = false;
+        root.focus = false;
+    }
     ListView.onReused: root.visible = true
     implicitHeight: (firstOfDay ? title.height : 0) + card.height + (lastOfDay ? 14 : 0)
 

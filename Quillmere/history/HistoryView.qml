@@ -35,12 +35,15 @@ FocusScope {
     }
 
     EmptyState {
+        id: nothing
+
         anchors.centerIn: parent
         width: Math.min(360, parent.width - 2 * Theme.spaceXL)
         visible: root.model.isEmpty
         symbol: "plus.forwardslash.minus"
         title: qsTr("No changes yet")
         text: qsTr("Time you add or subtract appears here.")
+        onVisibleChanged: (visible ? nothing : list).focus = true
     }
 
     ProgressRing {
