@@ -21,8 +21,8 @@ FileDialog {
         mid: Theme.controlBorder
         dark: Theme.tinted(Theme.primary, 0.4)
         // Behind selected text and around what has the keyboard.
-        highlight: Theme.dark ? Theme.prominent : Theme.focus
-        highlightedText: Theme.primary
+        highlight: Theme.focus
+        highlightedText: Theme.dark ? Theme.popover : Theme.primary
         placeholderText: Theme.placeholder
     }
 
