@@ -55,6 +55,7 @@ int handOver(InstanceService& instance, const CommandLine& line, const StartRequ
 int main(int argc, char** argv) {
     const auto request = StartRequest::ofEnvironment();
     QGuiApplication::setApplicationName(QStringLiteral("Quillmere"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillmere"));
     QGuiApplication::setApplicationVersion(QString::fromUtf8(quillmere::versionText));
     QGuiApplication::setDesktopFileName(QLatin1String(quillmere::BusNames::application));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
