@@ -73,7 +73,7 @@ void readField(const Statement& statement, int column, Uuid& value) {
 
 void readField(const Statement& statement, int column, Instant& value) {
     value.secondsSince1970 = statement.real(column);
-    if (value.secondsSince1970 == 0 && statement.isBlob(column)) {
+    if (value.secondsSince1970 == 0 && statement.blob(column).empty()) {
         value.secondsSince1970 = std::numeric_limits<double>::quiet_NaN();
     }
 }

@@ -74,10 +74,6 @@ bool Statement::isNull(int column) const {
     return sqlite3_column_type(statement_, column) == SQLITE_NULL;
 }
 
-bool Statement::isBlob(int column) const {
-    return sqlite3_column_type(statement_, column) == SQLITE_BLOB;
-}
-
 std::int64_t Statement::integer(int column) const {
     return sqlite3_column_int64(statement_, column);
 }

@@ -36,7 +36,6 @@ public:
     void reset();
 
     [[nodiscard]] bool isNull(int column) const;
-    [[nodiscard]] bool isBlob(int column) const;
     [[nodiscard]] std::int64_t integer(int column) const;
     [[nodiscard]] double real(int column) const;
     [[nodiscard]] std::string_view text(int column) const;

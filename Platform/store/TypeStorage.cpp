@@ -3,6 +3,8 @@
 #include "Platform/store/ConditionSql.h"
 
 #include <algorithm>
+#include <iterator>
+#include <limits>
 #include <utility>
 
 namespace platform::store {
@@ -181,7 +183,11 @@ void TypeStorage::writeChanged(Revision revision) {
 void TypeStorage::writeInserted(Revision revision) {
     std::erase_if(inserted_, [](const RecordBase* record) { return !record->isAlive(); });
     if (!inserted_.empty()) {
-        firstNewKey_ = after(lastKeyEver());
+        const RowKey last = lastKeyEver();
+        if (number(last) > std::numeric_limits<std::int64_t>::max() - std::ssize(inserted_)) {
+            throw StoreError(StoreFault::damaged, name_ + " has no keys left");
+        }
+        firstNewKey_ = after(last);
         writeRows(inserted_, "", revision, [key = firstNewKey_](const RecordBase&) mutable {
             return std::exchange(key, after(key));
         });
