@@ -156,6 +156,12 @@ T.ComboBox {
         contentItem: ListView {
             id: list
 
+            // With what is above it where there is room for both.
+            function showChoice(): void {
+                list.positionViewAtBeginning();
+                list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            }
+
             implicitHeight: contentHeight
             model: root.popup.visible ? root.delegateModel : null
             currentIndex: root.highlightedIndex
@@ -163,11 +169,7 @@ T.ComboBox {
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             T.ScrollBar.vertical: ThinScrollBar {}
-            // Opens with what is above the choice in sight where there is room for both.
-            onModelChanged: Qt.callLater(() => {
-                list.positionViewAtBeginning();
-                list.positionViewAtIndex(list.currentIndex, ListView.Contain);
-            })
+            onModelChanged: Qt.callLater(showChoice) // qmllint disable
 
             ReadingOrder {
                 id: order
