@@ -19,6 +19,7 @@ Item {
     }
 
     ArchiveDialog {
+        parentWindow: root.Window.window
         model: root.model
     }
 

@@ -2,6 +2,8 @@
 
 #include "Quillmere/share/DialogNameField.h"
 
+#include <QtGui/QGuiApplication>
+
 #include <algorithm>
 #include <functional>
 
@@ -53,13 +55,31 @@ bool losesPresses(const QQuickItem& item) {
     return item.inherits("QQuickAbstractButton") && item.metaObject()->indexOfMethod("click()") < 0;
 }
 
-// Popups lie beside each other in one layer; this one has a list of files in it.
+// The one with a list of files in it.
+QQuickItem* fileDialogIn(const QQuickItem& layer) {
+    for (QQuickItem* popup : layer.childItems()) {
+        if (partOf(*popup, listName)) {
+            return popup;
+        }
+    }
+    return nullptr;
+}
+
+// Popups lie beside each other in one layer, or, as Qt 6.8 has it, in windows of their own.
 QQuickItem* fileDialogOver(const QQuickWindow& window) {
-    for (QQuickItem* layer : window.contentItem()->childItems()) {
-        for (QQuickItem* popup : layer->childItems()) {
-            if (layer->inherits("QQuickOverlay") && partOf(*popup, listName)) {
-                return popup;
-            }
+    for (const QQuickItem* layer : window.contentItem()->childItems()) {
+        QQuickItem* popup = layer->inherits("QQuickOverlay") ? fileDialogIn(*layer) : nullptr;
+        if (popup) {
+            return popup;
+        }
+    }
+    for (const QWindow* other : QGuiApplication::topLevelWindows()) {
+        const auto* own = qobject_cast<const QQuickWindow*>(other);
+        QQuickItem* popup = own && own->transientParent() == &window && own->isVisible()
+                                ? fileDialogIn(*own->contentItem())
+                                : nullptr;
+        if (popup) {
+            return popup;
         }
     }
     return nullptr;

@@ -37,6 +37,7 @@ Item {
     }
 
     SaveDialog {
+        parentWindow: root.Window.window
         share: root.share
         title: root.title
         nameFilters: root.nameFilters // qmllint disable
