@@ -9,7 +9,10 @@ AppEngine::AppEngine() {
 }
 
 void AppEngine::readAhead(const QUrl& file) {
-    ahead_.push_back(std::make_unique<QQmlComponent>(this, file, QQmlComponent::Asynchronous));
+    auto& component = ahead_[file];
+    if (!component) {
+        component = std::make_unique<QQmlComponent>(this, file, QQmlComponent::Asynchronous);
+    }
 }
 
 } // namespace quillmere

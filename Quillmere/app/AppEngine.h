@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QtCore/QUrl>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
+#include <map>
 #include <memory>
-#include <vector>
 
 namespace quillmere {
 
@@ -20,7 +21,7 @@ public:
     void readAhead(const QUrl& file);
 
 private:
-    std::vector<std::unique_ptr<QQmlComponent>> ahead_; ///< keep what nobody uses yet
+    std::map<QUrl, std::unique_ptr<QQmlComponent>> ahead_; ///< keep what nobody uses yet
 };
 
 } // namespace quillmere

@@ -137,12 +137,17 @@ T.ComboBox {
     }
 
     popup: T.Popup {
+        id: choices
+
+        // Check mark and symbol beside the widest title.
+        property real lineWidth: 0
+
         y: root.height + 4
-        // Room for check mark and symbol beside the widest title; margins keep it within the window.
-        width: Math.max(root.width, 190, Math.min(root.widestTitle() + 90, 420, root.Window.width - 12))
+        width: Math.max(root.width, 190, Math.min(choices.lineWidth, 420, root.Window.width - 2 * margins))
         height: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, 330)
         padding: 5
         margins: 6
+        onAboutToShow: choices.lineWidth = root.widestTitle() + 90
 
         enter: Transition {
             NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.fadeDuration }
